@@ -1,0 +1,50 @@
+# Two commands: `make run` and `make test`. Everything else is a helper.
+SHELL := /bin/bash
+BUILD      ?= build
+ASAN_BUILD ?= build-asan
+FUZZ_BUILD ?= build-fuzz
+JOBS       ?= $(shell nproc)
+GENERATOR  := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
+
+BASE_PKGS := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev
+QT_PKGS   := qt6-base-dev libgl-dev xvfb xauth
+FUZZ_PKGS := clang libclang-rt-14-dev
+
+.PHONY: deps run test test-release test-asan bench fuzz gallery clean
+
+deps:
+	@tools/deps.sh $(BASE_PKGS) $(QT_PKGS)
+
+$(BUILD)/build.ninja $(BUILD)/Makefile: deps
+	cmake -S . -B $(BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Release
+
+build: deps
+	@cmake -S . -B $(BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Release >/dev/null
+	cmake --build $(BUILD) -j $(JOBS)
+
+run: build
+	@tools/run.sh $(BUILD)
+
+test: deps test-release test-asan
+
+test-release: build
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+test-asan: deps
+	@cmake -S . -B $(ASAN_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DBM_SANITIZE=ON -DBM_BENCH=OFF -DBM_WITH_QT=OFF >/dev/null
+	cmake --build $(ASAN_BUILD) -j $(JOBS)
+	cd $(ASAN_BUILD) && ctest --output-on-failure -j $(JOBS)
+
+bench: build
+	$(BUILD)/bin/core-bench
+
+fuzz: deps
+	@tools/deps.sh $(FUZZ_PKGS)
+	@cmake -S . -B $(FUZZ_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DBM_FUZZ=ON \
+	  -DCMAKE_CXX_COMPILER=clang++ >/dev/null
+	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	mkdir -p $(FUZZ_BUILD)/corpus
+	$(FUZZ_BUILD)/bin/number-text-fuzz -max_total_time=60 -max_len=64 $(FUZZ_BUILD)/corpus tests/fuzz/seeds
+
+clean:
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)
