@@ -1,0 +1,23 @@
+#include "calc/catalogue.hpp"
+
+#define BM_FORM(area, form) \
+    namespace bm::area {    \
+    CalculatorForm form();  \
+    }
+#include "calc/forms.inc"
+#undef BM_FORM
+
+namespace bm {
+namespace {
+
+#define BM_FORM(area, form) {#form, &area::form},
+const CatalogueEntry kEntries[] = {
+#include "calc/forms.inc"
+};
+#undef BM_FORM
+
+}  // namespace
+
+std::span<const CatalogueEntry> CalculatorCatalogue() { return kEntries; }
+
+}  // namespace bm

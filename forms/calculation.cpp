@@ -1,0 +1,40 @@
+#include "forms/calculation.hpp"
+
+namespace bm {
+
+namespace {
+void WarnMissing(FormContext& f, std::string_view focus) {
+    f.ShowMessage("MANCANO DATI", 48, "MESSAGGIO DI ERRORE");
+    f.setFocus(focus);
+}
+}  // namespace
+
+bool MissingData(FormContext& f, const FormValue& product, std::string_view focus) {
+    if (product > 0) return false;
+    WarnMissing(f, focus);
+    return true;
+}
+
+bool MissingDataSilentNegative(FormContext& f, const FormValue& product, std::string_view focus) {
+    if (product == 0) {
+        WarnMissing(f, focus);
+        return true;
+    }
+    return product < 0;
+}
+
+FormValue ReadBack(const FormContext& f, const FormValue& value, std::string_view picture) {
+    return FormValue(f.textValue(f.picture(value, picture)));
+}
+
+FormValue ReadBackSingle(const FormContext& f, const FormValue& value, std::string_view picture) {
+    return FormValue(ToSingle(FormValue(f.textValue(f.picture(value, picture)))));
+}
+
+void CenterOnScreen(FormContext& f) {
+    const Rect w = f.window();
+    // Twips are whole: the half twip of an odd difference is dropped.
+    f.moveWindow((f.screenWidth() - w.width) / 2, (f.screenHeight() - w.height) / 2);
+}
+
+}  // namespace bm
