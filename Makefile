@@ -37,6 +37,10 @@ test-asan: deps
 
 bench: build
 	$(BUILD)/bin/core-bench
+	@if [ -x tools/bench-startup.sh ]; then tools/bench-startup.sh $(BUILD); fi
+
+gallery: build
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bin/bancomisuratore-gallery $(BUILD)/gallery
 
 fuzz: deps
 	@tools/deps.sh $(FUZZ_PKGS)
