@@ -50,6 +50,11 @@ struct ControlKey {
     friend auto operator<=>(const ControlKey&, const ControlKey&) = default;
 };
 
+// "Option1", 2 -> "Option1(2)": an element of a control array by its Index.
+inline std::string Indexed(std::string_view name, int index) {
+    return std::string(name) + "(" + std::to_string(index) + ")";
+}
+
 struct ControlDef {
     ControlKey key;
     ControlKind kind = ControlKind::Label;
