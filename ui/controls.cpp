@@ -88,6 +88,24 @@ void SyncButtonFace(QPushButton& b, const ControlDef& def) {
     b.setIconSize(face);
 }
 
+// Option elements and check boxes answer a click anywhere in their box, not
+// only on the mark and the caption.
+class WholeBoxRadio : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+};
+
+class WholeBoxCheck : public QCheckBox {
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+};
+
 }  // namespace
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
@@ -139,6 +157,7 @@ QWidget* RenderLabel(const ControlDef& def, QWidget* parent, const ControlEvents
     }
     // A label empty in the definition is a result: readers may select and copy it.
     if (def.text.empty()) label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setFocusPolicy(Qt::NoFocus);  // selectable or not, a label never takes the focus
     label->setText(Q(def.text));
     label->onClick = events.clicked;
     return label;
@@ -158,7 +177,7 @@ QWidget* RenderButton(const ControlDef& def, QWidget* parent, const ControlEvent
 }
 
 QWidget* RenderOption(const ControlDef& def, QWidget* parent, const ControlEvents& events) {
-    auto* option = new QRadioButton(parent);
+    auto* option = new WholeBoxRadio(parent);
     Common(*option, def);
     // The group is the model's business: elements of one name in one container,
     // which need not be the widgets that share a parent here.
@@ -170,7 +189,7 @@ QWidget* RenderOption(const ControlDef& def, QWidget* parent, const ControlEvent
 }
 
 QWidget* RenderCheckBox(const ControlDef& def, QWidget* parent, const ControlEvents& events) {
-    auto* check = new QCheckBox(parent);
+    auto* check = new WholeBoxCheck(parent);
     Common(*check, def);
     check->setText(Q(def.text));
     check->setChecked(def.chosen);
