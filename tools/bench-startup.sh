@@ -1,0 +1,113 @@
+#!/usr/bin/env bash
+# Start-up of bancomisuratore against the least Qt Widgets program (one window,
+# one menu bar): time from launch to the main window on the screen, and peak
+# memory, median of several runs under Xvfb. Writes the figures into the
+# "Start-up" section of docs/performance.md.
+#
+#   tools/bench-startup.sh BUILD_DIR      (BENCH_RUNS=N to change the 9 runs)
+set -euo pipefail
+
+build=${1:-build}
+runs=${BENCH_RUNS:-9}
+here=$(cd "$(dirname "$0")/.." && pwd)
+app="$build/bin/bancomisuratore"
+minimal="$build/bin/bench-startup-minimal"
+
+if [ "${2:-}" != "--inside" ]; then
+  for exe in "$app" "$minimal"; do
+    if [ ! -x "$exe" ]; then
+      echo "bench-startup: $exe is not built (the Qt front end and BM_BENCH are needed); skipped."
+      exit 0
+    fi
+  done
+  if [ "$runs" -lt 7 ]; then runs=7; fi
+  if ! command -v xvfb-run >/dev/null; then
+    echo "bench-startup: xvfb-run is missing (make deps installs xvfb)." >&2
+    exit 1
+  fi
+  # One X server for all the runs, so that only the programs are measured.
+  exec env BENCH_RUNS="$runs" xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$build" --inside
+fi
+
+export QT_QPA_PLATFORM=xcb
+tmp=$(mktemp -d)
+trap 'rm -rf "$tmp"' EXIT
+
+# One run: prints "<milliseconds to shown> <max RSS in KiB>".
+measure() {
+  local exe=$1 start shown rss
+  start=$(date +%s%N)
+  BM_EXIT_AFTER_SHOW=1 /usr/bin/time -v -o "$tmp/time" "$exe" >"$tmp/out" 2>"$tmp/err" || {
+    echo "bench-startup: $exe failed:" >&2
+    cat "$tmp/err" >&2
+    exit 1
+  }
+  shown=$(sed -n 's/^shown_ns=//p' "$tmp/out")
+  rss=$(sed -n 's/.*Maximum resident set size (kbytes): //p' "$tmp/time")
+  echo "$(( (shown - start) / 1000 )) $rss"
+}
+
+median() { sort -n | awk '{ v[NR] = $1 } END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
+best() { sort -n | head -1; }
+
+# The two programs take turns, so that whatever else the machine is doing
+# weighs on both alike; one warm-up run each fills the file cache.
+measure "$minimal" >/dev/null
+measure "$app" >/dev/null
+: >"$tmp/minimal"
+: >"$tmp/app"
+for ((i = 0; i < runs; i++)); do
+  measure "$minimal" >>"$tmp/minimal"
+  measure "$app" >>"$tmp/app"
+done
+min_us=$(cut -d' ' -f1 "$tmp/minimal" | median)
+min_best=$(cut -d' ' -f1 "$tmp/minimal" | best)
+min_kib=$(cut -d' ' -f2 "$tmp/minimal" | median)
+app_us=$(cut -d' ' -f1 "$tmp/app" | median)
+app_best=$(cut -d' ' -f1 "$tmp/app" | best)
+app_kib=$(cut -d' ' -f2 "$tmp/app" | median)
+
+ms() { awk -v u="$1" 'BEGIN { printf "%.0f ms", u / 1000 }'; }
+mib() { awk -v k="$1" 'BEGIN { printf "%.1f MiB", k / 1024 }'; }
+extra() { awk -v a="$1" -v b="$2" -v s="$3" 'BEGIN { printf "+%.1f%s", (a - b) / s, (s == 1000 ? " ms" : " MiB") }'; }
+
+load=$(cut -d' ' -f1 /proc/loadavg)
+cpu=$(sed -n 's/^model name[[:space:]]*: //p' /proc/cpuinfo | head -1)
+qt=$(dpkg-query -W -f='${Version}' libqt6widgets6 2>/dev/null || echo "?")
+section=$(cat <<MD
+## Start-up
+\`make bench\` (\`tools/bench-startup.sh\`): launch to the main window painted on
+the screen, and peak resident memory (\`/usr/bin/time -v\`): median (and
+fastest) of $runs runs each, the two programs taking turns after one warm-up
+run each, under Xvfb (xcb), Release build. Measured $(date +%Y-%m-%d) on
+$(nproc) cores of ${cpu:-an unknown CPU} (load average $load at the end), Qt $qt. The yardstick is
+\`bench-startup-minimal\`: one QMainWindow with one menu bar and nothing else.
+
+| program | to main window shown, median | fastest | peak memory |
+|---|---|---|---|
+| bench-startup-minimal | $(ms "$min_us") | $(ms "$min_best") | $(mib "$min_kib") |
+| bancomisuratore | $(ms "$app_us") | $(ms "$app_best") | $(mib "$app_kib") |
+| difference | $(extra "$app_us" "$min_us" 1000) | $(extra "$app_best" "$min_best" 1000) | $(extra "$app_kib" "$min_kib" 1024) |
+
+What the difference pays for: the workbook's style, palette and font choice,
+the whole menu tree, whose enabled items are found by asking the workbook for
+every form (which builds each definition once), and the main window's picture
+drawn at its size. The machine is shared with other builds, so single runs
+scatter widely: compare medians.
+MD
+)
+
+doc="$here/docs/performance.md"
+[ -f "$doc" ] || printf '# Performance\n' >"$doc"
+# Replace the section up to the next heading of its level, or append it.
+awk -v section="$section" '
+  /^## Start-up[[:space:]]*$/ { print section; skip = 1; done = 1; next }
+  skip && /^## / { skip = 0; print "" }
+  !skip { print }
+  END { if (!done) { print ""; print section } }
+' "$doc" >"$tmp/doc" && cp "$tmp/doc" "$doc"
+
+printf '%-24s %12s %12s %12s\n' program "to shown" fastest "peak RSS"
+printf '%-24s %12s %12s %12s\n' bench-startup-minimal "$(ms "$min_us")" "$(ms "$min_best")" "$(mib "$min_kib")"
+printf '%-24s %12s %12s %12s\n' bancomisuratore "$(ms "$app_us")" "$(ms "$app_best")" "$(mib "$app_kib")"
+echo "written to docs/performance.md (Start-up)"
