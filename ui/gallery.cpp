@@ -16,6 +16,7 @@
 #include "forms/program.hpp"
 #include "shell/workbook.hpp"
 #include "ui/form_window.hpp"
+#include "ui/pictures.hpp"
 #include "ui/qt_host.hpp"
 #include "ui/style.hpp"
 
@@ -41,6 +42,8 @@ std::vector<std::string> LayoutProblems(const FormWindow& window) {
         QWidget* w = window.control(d.key);
         if (w == nullptr || w->isHidden()) continue;
         const std::string name = d.key.str();
+        if (!d.picture.empty() && !bm::ui::IsKnownPicture(d.picture))
+            problems.push_back(name + ": picture \"" + d.picture + "\" is not drawn yet (placeholder shown)");
         const QRect area = w->parentWidget()->rect();
         if (!area.contains(w->geometry()))
             problems.push_back(name + " passes the edge of " +
