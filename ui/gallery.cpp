@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <cstdio>
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -106,10 +107,16 @@ int main(int argc, char** argv) {
         host.setProcessExit([&status](int s) { status = s; });
         bm::Program program(workbook, host, bm::NumberLocale::system());
         host.attach(program);
-        if (form == bm::kMainForm)
-            bm::StartProgram(program);
-        else
-            program.open(form, bm::OpenModeless);
+        try {
+            if (form == bm::kMainForm)
+                bm::StartProgram(program);
+            else
+                program.open(form, bm::OpenModeless);
+        } catch (const std::exception& e) {
+            std::printf("%s: FAILED to open: %s\n", form.c_str(), e.what());
+            ++failures;
+            continue;
+        }
         QApplication::processEvents();
         FormWindow* window = host.window(form);
         if (status >= 0 || window == nullptr) {
