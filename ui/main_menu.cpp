@@ -12,7 +12,10 @@ void BuildMainMenu(QMenuBar& bar, std::span<const MenuItem> items,
                    const std::function<void(const std::string& item)>& choose) {
     // The window is as wide as its picture, and every menu of the bar must show
     // on its one row: items get narrow margins, as on the system the sizes were drawn for.
-    bar.setStyleSheet(QStringLiteral("QMenuBar { spacing: 0px; } QMenuBar::item { padding: 3px 4px; }"));
+    bar.setStyleSheet(QStringLiteral(
+        "QMenuBar { spacing: 0px; }"
+        "QMenuBar::item { padding: 3px 4px; background: transparent; }"
+        "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"));
     // open[level] is the submenu that items of level + 1 go into; level 0 is the bar.
     std::vector<QWidget*> open{&bar};
     for (const MenuItem& item : items) {
