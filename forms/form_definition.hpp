@@ -2,6 +2,12 @@
 // The definition of a calculator window: its title, geometry and controls, and
 // the handlers attached to its events. Pure data that the Qt front end and the
 // headless host read alike. All positions and sizes are in twips.
+//
+// Conventions the renderer relies on:
+// - a control inside a frame (`in("Frame1")`) is placed from the frame's
+//   top-left corner; every other control from the window's client area;
+// - `CalculatorForm::window` is the outer size of the window, border and title
+//   bar included (and the menu bar of the main window).
 #include <functional>
 #include <map>
 #include <optional>

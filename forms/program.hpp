@@ -20,6 +20,8 @@ class FormLibrary {
 public:
     virtual ~FormLibrary() = default;
     virtual const CalculatorForm* find(std::string_view name) const = 0;
+    // Whether the form exists, without building its definition.
+    virtual bool has(std::string_view name) const { return find(name) != nullptr; }
 };
 
 // Raised by FormContext::endProgram: the program ends normally.
@@ -46,7 +48,7 @@ public:
 
     FormState* state(std::string_view form);  // nullptr before its first use
     const FormState* state(std::string_view form) const;
-    bool isBuilt(std::string_view form) const { return library_.find(form) != nullptr; }
+    bool isBuilt(std::string_view form) const { return library_.has(form); }
     const FormLibrary& library() const { return library_; }
     // The form most recently opened, brought forward or acted in, still loaded.
     FormState* current();

@@ -443,12 +443,12 @@ void Run::act(const Step& s) {
             const MenuItem* m = FormRegistry::find(s.target);
             if (m == nullptr) return fail(s.line, "no menu item named " + s.target);
             if (m->isSubmenu()) return fail(s.line, s.target + " is a submenu");
-            if (library_.find(m->form) == nullptr) return fail(s.line, "menu item " + s.target + " is disabled");
+            if (!library_.has(m->form)) return fail(s.line, "menu item " + s.target + " is disabled");
             status = ChooseMenuItem(p, s.target);
             break;
         }
         case Cmd::Open: {
-            if (library_.find(s.target) == nullptr) return fail(s.line, "no form named " + s.target);
+            if (!library_.has(s.target)) return fail(s.line, "no form named " + s.target);
             Modality m = Modality::Modeless;
             if (s.modality) m = *s.modality;
             else if (const MenuItem* item = FormRegistry::firstFor(s.target)) m = item->modality;
@@ -456,7 +456,7 @@ void Run::act(const Step& s) {
             break;
         }
         case Cmd::Close: {
-            if (library_.find(s.target) == nullptr) return fail(s.line, "no form named " + s.target);
+            if (!library_.has(s.target)) return fail(s.line, "no form named " + s.target);
             status = p.close(s.target);
             break;
         }
@@ -536,7 +536,7 @@ void Run::expect(const Step& s) {
 
     // Expectations about forms.
     const auto formState = [&](const std::string& name, bool mustBeLoaded) -> FormState* {
-        if (library_.find(name) == nullptr) {
+        if (!library_.has(name)) {
             fail(s.line, "no form named " + name);
             return nullptr;
         }
@@ -555,7 +555,7 @@ void Run::expect(const Step& s) {
         }
         case Cmd::ExpectOpen:
         case Cmd::ExpectClosed: {
-            if (library_.find(s.target) == nullptr) return fail(s.line, "no form named " + s.target);
+            if (!library_.has(s.target)) return fail(s.line, "no form named " + s.target);
             const FormState* st = program_->state(s.target);
             const bool shown = st != nullptr && st->shown;
             if (shown != (s.cmd == Cmd::ExpectOpen))

@@ -16,6 +16,7 @@ class Workbook : public FormLibrary {
 public:
     Workbook();
     const CalculatorForm* find(std::string_view name) const override;
+    bool has(std::string_view name) const override { return factories_.contains(name); }
 
 private:
     std::map<std::string, CalculatorForm (*)(), std::less<>> factories_;
