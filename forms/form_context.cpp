@@ -31,6 +31,9 @@ void FormContext::setNumber(std::string_view control, const FormValue& value) {
 
 double FormContext::read(std::string_view control) const { return ReadNumber(text(control)); }
 
+std::string FormContext::tooltip(std::string_view control) const { return at(control).tooltip; }
+void FormContext::setTooltip(std::string_view control, std::string tip) { at(control).tooltip = std::move(tip); }
+
 bool FormContext::visible(std::string_view control) const { return at(control).visible; }
 void FormContext::setVisible(std::string_view control, bool visible) { at(control).visible = visible; }
 bool FormContext::enabled(std::string_view control) const { return at(control).enabled; }

@@ -27,6 +27,9 @@ public:
     // ReadNumber of a control's text.
     double read(std::string_view control) const;
 
+    std::string tooltip(std::string_view control) const;
+    void setTooltip(std::string_view control, std::string tip);
+
     bool visible(std::string_view control) const;
     void setVisible(std::string_view control, bool visible);
     void show(std::string_view control) { setVisible(control, true); }

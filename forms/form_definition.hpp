@@ -106,6 +106,8 @@ struct ControlDef {
     ControlDef& image(std::string name) { picture = std::move(name); return *this; }
     ControlDef& multi() { multiLine = true; return *this; }
     ControlDef& noWrap() { wordWrap = false; return *this; }
+    ControlDef& canClick() { clickable = true; return *this; }
+    ControlDef& canMove() { movable = true; return *this; }
 
     bool takesFocus() const;
 };

@@ -22,6 +22,7 @@ void FormState::reset() {
     for (const ControlDef& d : def->controls) {
         ControlState s;
         s.text = d.text;
+        s.tooltip = d.tooltip;
         s.visible = d.visible;
         s.enabled = d.enabled;
         s.chosen = d.chosen;

@@ -17,6 +17,7 @@ inline constexpr Modality OpenModeless = Modality::Modeless;
 
 struct ControlState {
     std::string text;
+    std::string tooltip;
     bool visible = true;
     bool enabled = true;
     bool chosen = false;

@@ -607,7 +607,6 @@ void Run::expect(const Step& s) {
     auto r = resolve(s, s.target, true);
     if (!r) return;
     const ControlState& c = r->form->control(r->key);
-    const ControlDef& def = r->form->def->at(r->key);
     const std::string name = r->key.str();
     switch (s.cmd) {
         case Cmd::ExpectText:
@@ -626,7 +625,7 @@ void Run::expect(const Step& s) {
                          c.chosen ? "chosen" : "unchosen");
             return;
         case Cmd::ExpectTooltip:
-            if (def.tooltip != s.text) mismatch(s.line, name + " tooltip " + Quote(s.text), Quote(def.tooltip));
+            if (c.tooltip != s.text) mismatch(s.line, name + " tooltip " + Quote(s.text), Quote(c.tooltip));
             return;
         case Cmd::ExpectColor: {
             const Color col = c.foreground.value_or(colors::Black);

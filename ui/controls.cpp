@@ -260,6 +260,7 @@ bool IsWindowedKind(ControlKind kind) {
 void SyncControl(QWidget& w, const ControlDef& def, const ControlState& state) {
     const QSignalBlocker blocker(&w);
     const QString text = Q(state.text);
+    if (const QString tip = Q(state.tooltip); w.toolTip() != tip) w.setToolTip(tip);
     switch (def.kind) {
         case ControlKind::TextBox:
             if (auto* box = qobject_cast<QLineEdit*>(&w)) {
