@@ -1,0 +1,76 @@
+// Impedance and phase of R, L and C in series at one frequency.
+#include "calc/schematic.hpp"
+#include "forms/calculation.hpp"
+
+namespace bm::lcr {
+namespace {
+
+struct Vars {
+    FormValue r, l, c, f;  // reloaded on every click
+};
+
+void BlankResults(FormContext& f) {
+    f.setCaption("lblimp", "");
+    f.setCaption("lblfi", "");
+}
+
+void cmdcalcola_Click(FormContext& f) {
+    Vars& m = f.values<Vars>();
+    m.r = f.read("txtr");
+    m.l = f.read("txtl");
+    m.c = f.read("txtc");
+    m.f = f.read("txtf");
+    if (MissingDataSilentNegative(f, m.r * m.l * m.c * m.f, "txtr")) return;
+
+    const FormValue xl = 6.2831852 * (m.f * m.l);
+    const FormValue xc = 159154.976203 / (m.f * m.c);
+    const std::string z = f.picture(Sqr(Power(m.r, 2) + Power(xl - xc, 2)), "#,##0.#");
+    const FormValue phase = ReadBack(f, Atn((xl - xc) / m.r) * 180 / 3.14159265358979, "#,##0.##");
+
+    f.setCaption("lblimp", "L' IMPEDENZA E'  " + z + " Ohm");
+    f.setCaption("lblfi", "ANGOLO DI FASE   " + f.numberText(phase) + "  GRADI");
+}
+
+void cmdchiudi_Click(FormContext& f) { f.close(); }
+
+// Generator on the left, then R, L and C along the top, back along the bottom.
+void DrawCircuit(CalculatorForm& form) {
+    Schematic s(form);
+    const int left = 480, right = 5400, top = 600, bottom = 2100;
+    s.generator(left, top, bottom);
+    s.resistor(left, top, 2040, top);
+    s.inductor(2040, top, 3720, top);
+    s.capacitor(3720, top, right, top);
+    s.wire(right, top, right, bottom);
+    s.wire(left, bottom, right, bottom);
+}
+
+}  // namespace
+
+CalculatorForm frmRLCserie() {
+    CalculatorForm f("frmRLCserie", "IMPEDENZA :  R + L + C  serie", {1800, 1500, 6120, 6330});
+    DrawCircuit(f);
+
+    f.label("Label3", {240, 2520, 2640, 255}, "RESISTENZA  in Ohm");
+    f.textBox("txtr", {3000, 2460, 1800, 330});
+    f.label("Label4", {240, 2940, 2640, 255}, "INDUTTANZA in uH");
+    f.textBox("txtl", {3000, 2880, 1800, 330});
+    f.label("Label1", {240, 3360, 2640, 255}, "CAPACITA' in pF");
+    f.textBox("txtc", {3000, 3300, 1800, 330});
+    f.label("Label5", {240, 3780, 2640, 255}, "FREQUENZA  in MHz ");
+    f.textBox("txtf", {3000, 3720, 1800, 330});
+
+    f.label("lblimp", {240, 4260, 5520, 255});
+    f.label("lblfi", {240, 4620, 5520, 255});
+
+    f.button("cmdcalcola", {240, 5100, 1800, 480}, "CALCOLA");
+    f.button("cmdchiudi", {2280, 5100, 1800, 480}, "C H I U D I");
+    f.label("Label2", {4560, 5220, 1200, 255}, "Z9 QQX");
+
+    for (const char* box : {"txtr", "txtl", "txtc", "txtf"}) f.onChange(box, BlankResults);
+    f.onClick("cmdcalcola", cmdcalcola_Click);
+    f.onClick("cmdchiudi", cmdchiudi_Click);
+    return f;
+}
+
+}  // namespace bm::lcr
