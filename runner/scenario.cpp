@@ -295,7 +295,10 @@ std::string Quote(const std::string& s) { return "\"" + s + "\""; }
 
 class Run {
 public:
-    Run(const std::string& file, const FormLibrary& library) : file_(file), library_(library) { restart(); }
+    Run(const std::string& file, const FormLibrary& library, const ActionObserver& observer)
+        : file_(file), library_(library), observer_(observer) {
+        restart();
+    }
 
     void step(const Step& s);
     void finish(int lastLine);
@@ -326,6 +329,10 @@ private:
     void act(const Step& s);
     void expect(const Step& s);
     void afterAction(const Step& s, Program::Status status);
+    void observe(const Step& s, const std::string& form, Program::Status status) {
+        const FormState* st = program_->state(form);
+        if (observer_ && status == Program::Status::Running && st != nullptr && st->shown) observer_(s.line, *st);
+    }
 
     // Resolves "frm.control" or "control" on the current form.
     struct Ref {
@@ -338,6 +345,7 @@ private:
 
     std::string file_;
     const FormLibrary& library_;
+    const ActionObserver& observer_;
     std::unique_ptr<HeadlessHost> host_;
     std::unique_ptr<Program> program_;
     std::size_t messagesSeen_ = 0;
@@ -479,12 +487,14 @@ void Run::act(const Step& s) {
                 return fail(s.line, "cannot act on " + s.target + ": it is " + (visible ? "disabled" : "hidden"));
             if (s.cmd == Cmd::Click) {
                 status = p.click(r->formName, r->key);
+                observe(s, r->formName, status);
                 break;
             }
             if (def.kind != ControlKind::TextBox && def.kind != ControlKind::List)
                 return fail(s.line, "cannot type into " + s.target + ": it is no text box");
             if (s.cmd == Cmd::Set) {
                 status = p.edit(r->formName, r->key, s.text);
+                observe(s, r->formName, status);
                 break;
             }
             status = p.edit(r->formName, r->key, "");
@@ -494,6 +504,7 @@ void Run::act(const Step& s) {
                 typed += ch;
                 status = p.edit(r->formName, r->key, typed);
             }
+            observe(s, r->formName, status);
             break;
         }
         default: break;
@@ -680,7 +691,8 @@ const FormLibrary& ProgramForms() {
 
 }  // namespace
 
-FileResult RunText(std::string_view text, const std::string& fileName, const FormLibrary* library) {
+FileResult RunText(std::string_view text, const std::string& fileName, const FormLibrary* library,
+                   const ActionObserver& observer) {
     FileResult result;
     result.file = fileName;
     std::vector<Step> steps;
@@ -702,7 +714,7 @@ FileResult RunText(std::string_view text, const std::string& fileName, const For
         result.failures.push_back(fileName + ":" + std::to_string(number) + ": the file runs no step");
         return result;
     }
-    Run run(fileName, library != nullptr ? *library : ProgramForms());
+    Run run(fileName, library != nullptr ? *library : ProgramForms(), observer);
     for (const Step& s : steps) run.step(s);
     run.finish(steps.back().line);
     result.failures = std::move(run.failures());

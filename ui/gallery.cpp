@@ -8,13 +8,18 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QFileInfo>
 #include <cstdio>
 #include <exception>
+#include <fstream>
+#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "calc/catalogue.hpp"
 #include "forms/program.hpp"
+#include "runner/scenario.hpp"
 #include "shell/workbook.hpp"
 #include "ui/form_window.hpp"
 #include "ui/pictures.hpp"
@@ -70,11 +75,61 @@ std::vector<std::string> LayoutProblems(const FormWindow& window) {
     return problems;
 }
 
+// A window drawn from a form's record only to be looked at: nothing it reports goes anywhere.
+struct NoSink final : bm::ui::EventSink {
+    void controlClicked(const std::string&, const bm::ControlKey&) override {}
+    void controlEdited(const std::string&, const bm::ControlKey&, const std::string&) override {}
+    void timerElapsed(const std::string&, const bm::ControlKey&) override {}
+    void closeBoxPressed(const std::string&) override {}
+};
+
+// Runs scenario files through the real handlers and draws the window after
+// every click, set and type, as DIR/<file>-<line>.png, with its layout remarks:
+// the way to see result texts in their labels.
+int DrawSteps(const QDir& out, const std::vector<std::string>& files) {
+    NoSink sink;
+    int drawn = 0;
+    int remarks = 0;
+    int failed = 0;
+    for (const std::string& file : files) {
+        std::ifstream in(file, std::ios::binary);
+        if (!in) {
+            std::printf("%s: cannot read\n", file.c_str());
+            ++failed;
+            continue;
+        }
+        std::stringstream text;
+        text << in.rdbuf();
+        const std::string stem = QFileInfo(QString::fromStdString(file)).completeBaseName().toStdString();
+        std::set<std::string> seen;  // a remark is told once per file
+        const auto draw = [&](int line, const bm::FormState& state) {
+            FormWindow window(*state.def, sink);
+            window.sync(state);
+            window.show();
+            QApplication::processEvents();
+            const std::string name = stem + "-" + std::to_string(line) + ".png";
+            window.grab().save(out.filePath(QString::fromStdString(name)));
+            ++drawn;
+            for (const std::string& p : LayoutProblems(window)) {
+                if (!seen.insert(p).second) continue;
+                ++remarks;
+                std::printf("%s:%d: %s: %s\n", file.c_str(), line, state.name().c_str(), p.c_str());
+            }
+        };
+        const bm::scenario::FileResult result = bm::scenario::RunText(text.str(), file, nullptr, draw);
+        for (const std::string& f : result.failures) std::printf("%s\n", f.c_str());
+    }
+    std::printf("%d steps drawn in %s, %d layout remarks, %d files unreadable\n", drawn,
+                out.path().toLocal8Bit().constData(), remarks, failed);
+    return failed == 0 ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: bancomisuratore-gallery DIR\n");
+    const bool steps = argc >= 4 && std::string(argv[2]) == "--steps";
+    if (argc != 2 && !steps) {
+        std::fprintf(stderr, "usage: bancomisuratore-gallery DIR [--steps FILE.scenario ...]\n");
         return 2;
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -85,6 +140,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "bancomisuratore-gallery: cannot create %s\n", argv[1]);
         return 1;
     }
+    if (steps) return DrawSteps(out, std::vector<std::string>(argv + 3, argv + argc));
 
     bm::Workbook workbook;
     int drawn = 0;

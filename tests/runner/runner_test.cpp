@@ -149,3 +149,24 @@ TEST(Runner, FoldersAndTheClosingLine) {
     EXPECT_EQ(scenario::RunPaths({(dir / "missing").string()}, none), 1);
     fs::remove_all(dir);
 }
+
+TEST(Runner, TheObserverSeesEveryUserActionOnAShownForm) {
+    std::vector<std::pair<int, std::string>> seen;
+    const auto observer = [&seen](int line, const FormState& form) {
+        seen.emplace_back(line, form.name() + ":" + form.control(ControlKey::Parse("txta")).text);
+    };
+    const auto result = scenario::RunText(R"(open frmprova
+set txta "3"
+type txta "12"
+expect txta "12"
+click cmdesci
+click cmdcalcola
+)",
+                                          "t.scenario", &kLibrary, observer);
+    // The exit closes the window, so there is nothing to draw after it, and the
+    // click after that fails: only the two edits are seen.
+    ASSERT_EQ(seen.size(), 2u);
+    EXPECT_EQ(seen[0], (std::pair<int, std::string>{2, "frmprova:3"}));
+    EXPECT_EQ(seen[1], (std::pair<int, std::string>{3, "frmprova:12"}));
+    EXPECT_FALSE(result.passed());
+}
