@@ -44,9 +44,9 @@ gallery: build
 
 fuzz: deps
 	@tools/deps.sh $(FUZZ_PKGS)
-	@cmake -S . -B $(FUZZ_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DBM_FUZZ=ON \
-	  -DCMAKE_CXX_COMPILER=clang++ >/dev/null
-	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	@cmake -S . -B $(FUZZ_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DBM_FUZZ=ON -DBM_WITH_QT=OFF \
+	  -DBM_BENCH=OFF -DCMAKE_CXX_COMPILER=clang++ >/dev/null
+	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target number-text-fuzz
 	mkdir -p $(FUZZ_BUILD)/corpus
 	$(FUZZ_BUILD)/bin/number-text-fuzz -max_total_time=60 -max_len=64 $(FUZZ_BUILD)/corpus tests/fuzz/seeds
 

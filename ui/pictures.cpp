@@ -219,6 +219,146 @@ void PaintAbout(QPainter& p, QSizeF size) {
     }
 }
 
+// The filter sections: a black schematic on a white card, with the parts
+// marked "L" and "C" as the result texts name them. Each picture's grid is the
+// size its window shows it at, and the card leaves free the corners where the
+// window writes over the picture (a title above, the results to the right).
+enum class Component { Coil, Capacitor };
+
+// A part between a and b, which lie on one horizontal or vertical line with a
+// before b; the body stands in the middle and leads fill the rest.
+void DrawComponent(QPainter& p, QPointF a, QPointF b, Component part) {
+    const bool horizontal = std::abs(a.y() - b.y()) < 0.5;
+    const QPointF axis = horizontal ? QPointF(1, 0) : QPointF(0, 1);
+    const QPointF across = horizontal ? QPointF(0, 1) : QPointF(1, 0);
+    const QPointF mid = (a + b) / 2;
+    const double half = part == Component::Coil ? 18 : 3;
+    p.drawLine(a, mid - axis * half);
+    p.drawLine(mid + axis * half, b);
+    if (part == Component::Coil) {
+        // Four turns bulging up from a horizontal lead, to the right of a vertical one.
+        const double d = 2 * half / 4;
+        for (int i = 0; i < 4; ++i) {
+            const QPointF start = mid - axis * half + axis * (i * d);
+            if (horizontal)
+                p.drawArc(QRectF(start.x(), start.y() - d / 2, d, d), 0, 180 * 16);
+            else
+                p.drawArc(QRectF(start.x() - d / 2, start.y(), d, d), 90 * 16, -180 * 16);
+        }
+    } else {
+        const QPen lead = p.pen();
+        QPen plate = lead;
+        plate.setWidthF(lead.widthF() * 1.5);
+        plate.setCapStyle(Qt::FlatCap);
+        p.setPen(plate);
+        for (const double side : {-half, half}) {
+            const QPointF c = mid + axis * side;
+            p.drawLine(c - across * 10, c + across * 10);
+        }
+        p.setPen(lead);
+    }
+}
+
+// "L" or "C" centred on a point.
+void ComponentName(QPainter& p, QPointF centre, Component part) {
+    const QRectF box(centre.x() - 8, centre.y() - 8, 16, 16);
+    p.drawText(box, Qt::AlignCenter, part == Component::Coil ? QStringLiteral("L") : QStringLiteral("C"));
+}
+
+void Earth(QPainter& p, QPointF from) {
+    p.drawLine(from, from + QPointF(0, 8));
+    for (int i = 0; i < 3; ++i) {
+        const double half = 9.0 - 3.0 * i;
+        const double y = from.y() + 8 + 4 * i;
+        p.drawLine(QPointF(from.x() - half, y), QPointF(from.x() + half, y));
+    }
+}
+
+void Terminal(QPainter& p, QPointF at) {
+    p.save();
+    p.setBrush(Qt::white);
+    p.drawEllipse(at, 3.2, 3.2);
+    p.restore();
+}
+
+// One section on its card: input terminals on the left, output on the right,
+// the upper line through the series parts, the lower line to ground.
+// A pi section is shunt, series, shunt; a T section series, shunt, series.
+void PaintSection(QPainter& p, QSizeF size, QSizeF grid, QRectF card, bool pi, Component series, Component shunt) {
+    ScaleTo(p, size, grid);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(QColor(150, 150, 150), 1));
+    p.setBrush(Qt::white);
+    p.drawRect(card.adjusted(0.5, 0.5, -0.5, -0.5));
+    p.setBrush(Qt::NoBrush);
+
+    QPen ink(Qt::black, 1.6);
+    ink.setCapStyle(Qt::RoundCap);
+    p.setPen(ink);
+    QFont font = p.font();
+    font.setPixelSize(13);
+    font.setBold(true);
+    p.setFont(font);
+
+    const double in = card.left() + 14;
+    const double out = card.right() - 14;
+    const double top = card.top() + card.height() * 0.30;
+    const double bottom = card.top() + card.height() * 0.70;
+    const double middle = (top + bottom) / 2;
+    const auto node = [&p](QPointF at) {
+        p.save();
+        p.setBrush(Qt::black);
+        p.drawEllipse(at, 2.2, 2.2);
+        p.restore();
+    };
+
+    p.drawLine(QPointF(in, bottom), QPointF(out, bottom));
+    double earthX = (in + out) / 2;
+    if (pi) {
+        const double x1 = in + (out - in) * 0.25;
+        const double x2 = out - (out - in) * 0.25;
+        p.drawLine(QPointF(in, top), QPointF(x1, top));
+        DrawComponent(p, QPointF(x1, top), QPointF(x2, top), series);
+        p.drawLine(QPointF(x2, top), QPointF(out, top));
+        for (const double x : {x1, x2}) {
+            DrawComponent(p, QPointF(x, top), QPointF(x, bottom), shunt);
+            node(QPointF(x, top));
+            node(QPointF(x, bottom));
+            ComponentName(p, QPointF(x + 19, middle), shunt);
+        }
+        ComponentName(p, QPointF((x1 + x2) / 2, top - 19), series);
+    } else {
+        const double x = (in + out) / 2;
+        DrawComponent(p, QPointF(in, top), QPointF(x, top), series);
+        DrawComponent(p, QPointF(x, top), QPointF(out, top), series);
+        DrawComponent(p, QPointF(x, top), QPointF(x, bottom), shunt);
+        node(QPointF(x, top));
+        node(QPointF(x, bottom));
+        ComponentName(p, QPointF((in + x) / 2, top - 19), series);
+        ComponentName(p, QPointF((x + out) / 2, top - 19), series);
+        ComponentName(p, QPointF(x + 19, middle), shunt);
+        earthX = x;
+    }
+    Earth(p, QPointF(earthX, bottom));
+    for (const double x : {in, out})
+        for (const double y : {top, bottom}) Terminal(p, QPointF(x, y));
+}
+
+// High pass: the coils go to ground, the capacitors pass the signal.
+void PaintHighPassPi(QPainter& p, QSizeF size) {
+    PaintSection(p, size, {260, 162}, {1, 1, 218, 160}, true, Component::Capacitor, Component::Coil);
+}
+void PaintHighPassT(QPainter& p, QSizeF size) {
+    PaintSection(p, size, {151, 153}, {1, 4, 149, 148}, false, Component::Capacitor, Component::Coil);
+}
+// Low pass: the capacitors go to ground, the coils pass the signal.
+void PaintLowPassPi(QPainter& p, QSizeF size) {
+    PaintSection(p, size, {244, 163}, {1, 9, 224, 153}, true, Component::Coil, Component::Capacitor);
+}
+void PaintLowPassT(QPainter& p, QSizeF size) {
+    PaintSection(p, size, {179, 152}, {1, 9, 177, 142}, false, Component::Coil, Component::Capacitor);
+}
+
 // Neither a picture nor a fault: a quiet panel that keeps the place.
 void PaintPlaceholder(QPainter& p, QSizeF size) {
     p.setRenderHint(QPainter::Antialiasing);
@@ -243,6 +383,10 @@ const std::map<std::string_view, PictureEntry>& Pictures() {
         {"main", {&PaintMain, "banco di misura con oscilloscopio, strumento e antenna"}},
         {"exit", {&PaintExit, "uscita"}},
         {"about", {&PaintAbout, "traliccio d'antenna"}},
+        {"passaalto-pigreco", {&PaintHighPassPi, "filtro passa alto a pi greco: L verso massa, C in serie, L verso massa"}},
+        {"passaalto-T", {&PaintHighPassT, "filtro passa alto a T: C in serie, L verso massa, C in serie"}},
+        {"passabasso-pigreco", {&PaintLowPassPi, "filtro passa basso a pi greco: C verso massa, L in serie, C verso massa"}},
+        {"passabasso-T", {&PaintLowPassT, "filtro passa basso a T: L in serie, C verso massa, L in serie"}},
     };
     return pictures;
 }

@@ -51,14 +51,14 @@ CalculatorForm frmRLCserie() {
     CalculatorForm f("frmRLCserie", "IMPEDENZA :  R + L + C  serie", {1800, 1500, 6120, 6330});
     DrawCircuit(f);
 
-    f.label("Label3", {240, 2520, 2640, 255}, "RESISTENZA  in Ohm");
-    f.textBox("txtr", {3000, 2460, 1800, 330});
-    f.label("Label4", {240, 2940, 2640, 255}, "INDUTTANZA in uH");
-    f.textBox("txtl", {3000, 2880, 1800, 330});
-    f.label("Label1", {240, 3360, 2640, 255}, "CAPACITA' in pF");
-    f.textBox("txtc", {3000, 3300, 1800, 330});
-    f.label("Label5", {240, 3780, 2640, 255}, "FREQUENZA  in MHz ");
-    f.textBox("txtf", {3000, 3720, 1800, 330});
+    f.label("Label3", {240, 2520, 2040, 255}, "RESISTENZA  in Ohm");
+    f.textBox("txtr", {2400, 2460, 1440, 330});
+    f.label("Label4", {240, 2940, 2040, 255}, "INDUTTANZA in uH");
+    f.textBox("txtl", {2400, 2880, 1440, 330});
+    f.label("Label1", {240, 3360, 2040, 255}, "CAPACITA' in pF");
+    f.textBox("txtc", {2400, 3300, 1440, 330});
+    f.label("Label5", {240, 3780, 2040, 255}, "FREQUENZA  in MHz ");
+    f.textBox("txtf", {2400, 3720, 1440, 330});
 
     f.label("lblimp", {240, 4260, 5520, 255});
     f.label("lblfi", {240, 4620, 5520, 255});

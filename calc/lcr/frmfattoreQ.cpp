@@ -1,0 +1,125 @@
+// The Q and the 3 dB bandwidth of an R L C circuit at resonance, series and
+// parallel, with its impedance.
+#include "calc/schematic.hpp"
+#include "forms/calculation.hpp"
+
+namespace bm::lcr {
+namespace {
+
+struct Vars {
+    FormValue r, l, c;  // ohm, microhenry, picofarad, reloaded on every click
+};
+
+void cmdcalcola_Click(FormContext& f) {
+    Vars& m = f.values<Vars>();
+    m.r = f.read("txtR");
+    m.l = f.read("txtL");
+    m.c = f.read("txtC");
+    if (MissingDataSilentNegative(f, m.r * m.l * m.c, "txtC")) return;
+    if (m.r < 0.05) {
+        f.ShowMessage("RESISTENZA TROPPO PICCOLA", 48, "MESSAGGIO DI AVVISO");
+        f.setFocus("txtR");
+        return;
+    }
+
+    const FormValue mhz = 159.155 / Sqr(m.c * m.l);
+    const FormValue xl = 6.28 * (mhz * m.l);
+    const FormValue q = xl / m.r;
+    const FormValue khz = (mhz / q) * 1000;
+
+    // The series bandwidth is shown as pictured, point and separators included.
+    const std::string qText = f.picture(q, "##0.#");
+    const std::string bandwidthText = f.picture(khz, "##,##0.###");
+    // Across the tank the resistance gives the inverse ratio, R / XL, from the
+    // unrounded values.
+    const FormValue qParallel = m.r / xl;
+    const FormValue khzParallel = (mhz / qParallel) * 1000;
+    const std::string qParallelText = f.picture(qParallel, "##0.#");
+    const FormValue bandwidthParallel = ReadBack(f, khzParallel, "##,##0.###");
+
+    const std::string mhzText = f.picture(mhz, "###,##0.###");
+    const FormValue& zSeries = m.r;
+    const FormValue zParallel = ReadBack(f, (m.l * Power(FormValue::Whole(10), 6)) / (m.c * m.r), "###,##0.#");
+
+    f.setCaption("lblfrequenza", "FREQUENZA DI RISONANZA : " + mhzText + " MHz");
+    f.setCaption("lblzserie", "IMPEDENZA SERIE : " + f.numberText(zSeries) + " Ohm");
+    f.setCaption("lblzparallelo", "IMPEDENZA PARALLELO : " + f.numberText(zParallel) + " Ohm");
+    f.setCaption("lblqserie", "IL Q DEL CIRCUITO SERIE E' =  " + qText);
+    f.setCaption("lbllbserie", "LARGHEZZA DI BANDA SERIE = " + bandwidthText + " KHz");
+    f.setCaption("lblqparallelo", "IL Q DEL CIRCUITO PARALLELO E' =  " + qParallelText);
+    f.setCaption("lbllbparallelo", "LARGHEZZA DI BANDA PARALLELO = " + f.numberText(bandwidthParallel) + " KHz");
+}
+
+void cdmesci_Click(FormContext& f) { f.close(); }
+
+// Left: R, L and C in series between two terminals. Right: R, L and C side by
+// side between the two rails.
+void DrawCircuits(CalculatorForm& form) {
+    Schematic s(form);
+    const int top = 1680, bottom = 2880;
+
+    const int in = 600, corner = 3600;
+    s.resistor(in, top, 1800, top);
+    s.inductor(1800, top, 3000, top);
+    s.wire(3000, top, corner, top);
+    s.capacitor(corner, top, corner, bottom);
+    s.wire(corner, bottom, in, bottom);
+    s.terminal(in, top);
+    s.terminal(in, bottom);
+
+    const int rails = 5160, rBranch = 6240, lBranch = 7440, cBranch = 8640;
+    s.wire(rails, top, cBranch, top);
+    s.wire(rails, bottom, cBranch, bottom);
+    s.resistor(rBranch, top, rBranch, bottom);
+    s.inductor(lBranch, top, lBranch, bottom);
+    s.capacitor(cBranch, top, cBranch, bottom);
+    for (const int x : {rBranch, lBranch}) {
+        s.node(x, top);
+        s.node(x, bottom);
+    }
+    s.terminal(rails, top);
+    s.terminal(rails, bottom);
+}
+
+}  // namespace
+
+CalculatorForm frmfattoreQ() {
+    CalculatorForm f("frmfattoreQ", "CALCOLO DEL  FATTORE DI MERITO E DELLA LARGHEZZA DI BANDA", {1800, 1200, 9600, 7410});
+    DrawCircuits(f);
+
+    f.label("Label9", {240, 120, 9000, 720},
+            "SI DETERMINA IL FATTORE DI MERITO E LA LARGHEZZA DI BANDA  A 3 dB  IN UN CIRCUITO  R-L-C  IN "
+            "RISONANZA, SUPPONENDO CHE I COMPONENTI SIANO PRIVI DI PERDITE");
+    f.label("Label1", {480, 1020, 3600, 255}, "risonanza serie").font(8, true);
+    f.label("Label3", {1080, 1320, 255, 255}, "R");
+    f.label("Label4", {2280, 1320, 255, 255}, "L");
+    f.label("Label5", {3840, 2160, 255, 255}, "C");
+    f.label("Label2", {5040, 1020, 3600, 255}, "risonanza parallelo").font(8, true);
+    f.label("Label6", {6420, 2160, 255, 255}, "R");
+    f.label("Label7", {7620, 2160, 255, 255}, "L");
+    f.label("Label8", {8880, 2160, 255, 255}, "C");
+
+    f.label("lblR", {240, 3300, 3000, 255}, "RESISTENZA IN OHM");
+    f.textBox("txtR", {3360, 3240, 1800, 330}, "2");
+    f.label("lblL", {240, 3720, 3000, 255}, "INDUTTANZA IN microHENRY");
+    f.textBox("txtL", {3360, 3660, 1800, 330});
+    f.label("lblC", {240, 4140, 3000, 255}, "CAPACITA'  IN picoFARAD");
+    f.textBox("txtC", {3360, 4080, 1800, 330});
+
+    f.label("lblfrequenza", {240, 4620, 9000, 255}).font(8, true);
+    f.label("lblzserie", {240, 4920, 9000, 255}).font(8, true);
+    f.label("lblzparallelo", {240, 5220, 9000, 255}).font(8, true);
+    f.label("lblqserie", {240, 5520, 9000, 255}).font(8, true);
+    f.label("lbllbserie", {240, 5820, 9000, 255}).font(8, true);
+    f.label("lblqparallelo", {240, 6120, 9000, 255}).font(8, true);
+    f.label("lbllbparallelo", {240, 6420, 9000, 255}).font(8, true);
+
+    f.button("cmdcalcola", {6240, 3240, 1800, 480}, "CALCOLA");
+    f.button("cdmesci", {6240, 3840, 1800, 480}, "E S C I");
+
+    f.onClick("cmdcalcola", cmdcalcola_Click);
+    f.onClick("cdmesci", cdmesci_Click);
+    return f;
+}
+
+}  // namespace bm::lcr
