@@ -1,6 +1,6 @@
 // The impedance of an R L C circuit at resonance, series and parallel, with the
 // series Q and bandwidth.
-#include "calc/schematic.hpp"
+#include "calc/lcr/resonance_circuits.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
@@ -44,52 +44,15 @@ void cmdcalcola_Click(FormContext& f) {
 
 void cdmesci_Click(FormContext& f) { f.close(); }
 
-// Left: R, L and C in series between two terminals. Right: R, L and C side by
-// side between the two rails.
-void DrawCircuits(CalculatorForm& form) {
-    Schematic s(form);
-    const int top = 1680, bottom = 2880;
-
-    const int in = 600, corner = 3600;
-    s.resistor(in, top, 1800, top);
-    s.inductor(1800, top, 3000, top);
-    s.wire(3000, top, corner, top);
-    s.capacitor(corner, top, corner, bottom);
-    s.wire(corner, bottom, in, bottom);
-    s.terminal(in, top);
-    s.terminal(in, bottom);
-
-    const int rails = 5160, rBranch = 6240, lBranch = 7440, cBranch = 8640;
-    s.wire(rails, top, cBranch, top);
-    s.wire(rails, bottom, cBranch, bottom);
-    s.resistor(rBranch, top, rBranch, bottom);
-    s.inductor(lBranch, top, lBranch, bottom);
-    s.capacitor(cBranch, top, cBranch, bottom);
-    for (const int x : {rBranch, lBranch}) {
-        s.node(x, top);
-        s.node(x, bottom);
-    }
-    s.terminal(rails, top);
-    s.terminal(rails, bottom);
-}
-
 }  // namespace
 
 CalculatorForm frmimprisonanza() {
     CalculatorForm f("frmimprisonanza", "CALCOLO DELL'IMPEDENZA IN UN CIRCUITO IN RISONANZA", {1800, 1200, 9600, 6810});
-    DrawCircuits(f);
+    ResonanceCircuits(f);
 
     f.label("Label9", {240, 120, 9000, 720},
             "NOTA LA CAPACITA',  L' INDUTTANZA E LA RESISTENZA,  SI DETERMINA IL VALORE DELL'IMPEDENZA IN UN "
             "CIRCUITO  R-L-C  IN RISONANZA, SUPPONENDO CHE I COMPONENTI SIANO PRIVI DI PERDITE");
-    f.label("Label1", {480, 1020, 3600, 255}, "risonanza serie").font(8, true);
-    f.label("Label3", {1080, 1320, 255, 255}, "R");
-    f.label("Label4", {2280, 1320, 255, 255}, "L");
-    f.label("Label5", {3840, 2160, 255, 255}, "C");
-    f.label("Label2", {5040, 1020, 3600, 255}, "risonanza parallelo").font(8, true);
-    f.label("Label6", {6420, 2160, 255, 255}, "R");
-    f.label("Label7", {7620, 2160, 255, 255}, "L");
-    f.label("Label8", {8880, 2160, 255, 255}, "C");
 
     f.label("lblR", {240, 3300, 3000, 255}, "RESISTENZA IN OHM");
     f.textBox("txtR", {3360, 3240, 1800, 330});
