@@ -96,6 +96,14 @@ void Schematic::capacitor(int x1, int y1, int x2, int y2) {
     }
 }
 
+void Schematic::part(Part kind, int x1, int y1, int x2, int y2) {
+    switch (kind) {
+        case Part::Resistor: resistor(x1, y1, x2, y2); break;
+        case Part::Inductor: inductor(x1, y1, x2, y2); break;
+        case Part::Capacitor: capacitor(x1, y1, x2, y2); break;
+    }
+}
+
 void Schematic::variableCapacitor(int x1, int y1, int x2, int y2) {
     capacitor(x1, y1, x2, y2);
     // The arrow crosses the plates from lower left to upper right.

@@ -24,6 +24,8 @@
 
 namespace bm {
 
+enum class Part { Resistor, Inductor, Capacitor };
+
 class Schematic {
 public:
     // Parts drawn inside a frame take their coordinates from the frame's corner.
@@ -37,6 +39,8 @@ public:
     void resistor(int x1, int y1, int x2, int y2);  // an open box, 480 by 180
     void inductor(int x1, int y1, int x2, int y2);  // four turns, 600 long
     void capacitor(int x1, int y1, int x2, int y2); // two plates, 300 wide
+    // One of the three, by kind.
+    void part(Part kind, int x1, int y1, int x2, int y2);
     // A variable capacitor: the plates with an arrow across them.
     void variableCapacitor(int x1, int y1, int x2, int y2);
 

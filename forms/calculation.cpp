@@ -31,6 +31,14 @@ FormValue ReadBackSingle(const FormContext& f, const FormValue& value, std::stri
     return FormValue(ToSingle(FormValue(f.textValue(f.picture(value, picture)))));
 }
 
+FormValue ReadBackFixed(const FormContext& f, const FormValue& value, int n) {
+    return FormValue(f.textValue(f.fixed(value, n)));
+}
+
+FormValue ReadBackFixedSingle(const FormContext& f, const FormValue& value, int n) {
+    return FormValue(ToSingle(FormValue(f.textValue(f.fixed(value, n)))));
+}
+
 void CenterOnScreen(FormContext& f) {
     const Rect w = f.window();
     // Twips are whole: the half twip of an odd difference is dropped.

@@ -20,6 +20,9 @@ bool MissingDataSilentNegative(FormContext& f, const FormValue& product, std::st
 FormValue ReadBack(const FormContext& f, const FormValue& value, std::string_view picture);
 // The same, held in single precision.
 FormValue ReadBackSingle(const FormContext& f, const FormValue& value, std::string_view picture);
+// A value written with n fixed decimals and read back, in double or in single precision.
+FormValue ReadBackFixed(const FormContext& f, const FormValue& value, int n);
+FormValue ReadBackFixedSingle(const FormContext& f, const FormValue& value, int n);
 
 // Left = (screen width - form width) / 2 and Top likewise.
 void CenterOnScreen(FormContext& f);

@@ -1,7 +1,7 @@
 // Two coils at one frequency: the reactance with the two in series and in
 // parallel. Two coils give a phase of 90 degrees whatever their values.
 #include "calc/coil_handoff.hpp"
-#include "calc/schematic.hpp"
+#include "calc/lcr/pair_circuits.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
@@ -39,38 +39,11 @@ void cmdchiamabobine_Click(FormContext& f) { OpenCoilWindow(f, CoilHandOff::Show
 
 void cmdchiudi_Click(FormContext& f) { f.close(); }
 
-// Left: the two coils in a row between two terminals. Right: side by side,
-// joined at both ends, between two terminals.
-void DrawCircuits(CalculatorForm& form) {
-    Schematic s(form);
-    const int mid = 1080;
-    s.wire(600, mid, 960, mid);
-    s.inductor(960, mid, 2220, mid);
-    s.inductor(2220, mid, 3480, mid);
-    s.wire(3480, mid, 3840, mid);
-    s.terminal(600, mid);
-    s.terminal(3840, mid);
-
-    const int a = 5280, b = 7680, upper = 660, lower = 1500;
-    s.wire(4680, mid, a, mid);
-    s.path({{a, upper}, {a, lower}});
-    s.inductor(a, upper, b, upper);
-    s.inductor(a, lower, b, lower);
-    s.path({{b, upper}, {b, lower}});
-    s.wire(b, mid, 8280, mid);
-    s.node(a, mid);
-    s.node(b, mid);
-    s.terminal(4680, mid);
-    s.terminal(8280, mid);
-}
-
 }  // namespace
 
 CalculatorForm frmLL() {
     CalculatorForm f("frmLL", "IMPEDENZA :  INDUTTANZA  +  INDUTTANZA", {2400, 1800, 8760, 5550});
-    DrawCircuits(f);
-    f.label("Label1", {240, 120, 3960, 255}, "CONFIGURAZIONE SERIE").aligned(Align::Center);
-    f.label("Label2", {4440, 120, 3960, 255}, "CONFIGURAZIONE PARALLELO").aligned(Align::Center);
+    PairCircuits(f, Part::Inductor, Part::Inductor);
 
     f.label("Label3", {240, 1980, 3000, 255}, "uH prima induttanza ");
     f.textBox("txtl1", {3360, 1920, 1800, 330});

@@ -1,6 +1,6 @@
 // A resistor and a capacitor at one frequency: impedance and phase with the two
 // in series and in parallel. The capacitor leads, so both angles print negative.
-#include "calc/schematic.hpp"
+#include "calc/lcr/pair_circuits.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
@@ -37,38 +37,11 @@ void cmdcalcola_Click(FormContext& f) {
 
 void cmdchiudi_Click(FormContext& f) { f.close(); }
 
-// Left: R and C in a row between two terminals. Right: side by side, joined at
-// both ends, between two terminals.
-void DrawCircuits(CalculatorForm& form) {
-    Schematic s(form);
-    const int mid = 1080;
-    s.wire(600, mid, 960, mid);
-    s.resistor(960, mid, 2220, mid);
-    s.capacitor(2220, mid, 3480, mid);
-    s.wire(3480, mid, 3840, mid);
-    s.terminal(600, mid);
-    s.terminal(3840, mid);
-
-    const int a = 5280, b = 7680, upper = 660, lower = 1500;
-    s.wire(4680, mid, a, mid);
-    s.path({{a, upper}, {a, lower}});
-    s.resistor(a, upper, b, upper);
-    s.capacitor(a, lower, b, lower);
-    s.path({{b, upper}, {b, lower}});
-    s.wire(b, mid, 8280, mid);
-    s.node(a, mid);
-    s.node(b, mid);
-    s.terminal(4680, mid);
-    s.terminal(8280, mid);
-}
-
 }  // namespace
 
 CalculatorForm frmRC() {
     CalculatorForm f("frmRC", "IMPEDENZA :  RESISTENZA  +  CAPACITA'", {2400, 1800, 8760, 5850});
-    DrawCircuits(f);
-    f.label("Label1", {240, 120, 3960, 255}, "CONFIGURAZIONE SERIE").aligned(Align::Center);
-    f.label("Label2", {4440, 120, 3960, 255}, "CONFIGURAZIONE PARALLELO").aligned(Align::Center);
+    PairCircuits(f, Part::Resistor, Part::Capacitor);
 
     f.label("Label3", {240, 1980, 3000, 255}, "RESISTENZA  in Ohm");
     f.textBox("txtr", {3360, 1920, 1800, 330});

@@ -1,15 +1,12 @@
 // Impedance, phase, reactances and Q of a lossy coil (R and L in series) with a
 // capacitor across it, at one frequency. Offers the coil window beside it.
 #include "calc/coil_handoff.hpp"
+#include "calc/lcr/rlc_inputs.hpp"
 #include "calc/schematic.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
 namespace {
-
-struct Vars {
-    FormValue r, l, c, f;  // reloaded on every click
-};
 
 void BlankResults(FormContext& f) {
     f.setCaption("lblimp", "");
@@ -19,16 +16,12 @@ void BlankResults(FormContext& f) {
 }
 
 void cmdcalcola_Click(FormContext& f) {
-    Vars& m = f.values<Vars>();
-    m.r = f.read("txtr");
-    m.l = f.read("txtl");
-    m.c = f.read("txtc");
-    m.f = f.read("txtf");
+    const RlcValues& m = ReadRlc(f);
     // Here a negative product warns too.
-    if (MissingData(f, m.r * m.l * m.c * m.f, "txtr")) return;
+    if (MissingData(f, m.product(), "txtr")) return;
 
-    const FormValue xl = 6.2831852 * (m.f * m.l);
-    const FormValue xc = 159154.976203 / (m.f * m.c);
+    const FormValue xl = m.xl();
+    const FormValue xc = m.xc();
     const FormValue r2 = Power(m.r, 2);
     const FormValue coil = r2 + Power(xl, 2);  // R² + XL² of the lossy coil
     const std::string z = f.picture(xc * Sqr(coil / (r2 + Power(xl - xc, 2))), "#,##0.#");
@@ -70,14 +63,7 @@ CalculatorForm frmRLC() {
     CalculatorForm f("frmRLC", "IMPEDENZA :  R + L + C  ", {1800, 1500, 6120, 7050});
     DrawCircuit(f);
 
-    f.label("Label3", {240, 2520, 2040, 255}, "RESISTENZA  in Ohm");
-    f.textBox("txtr", {2400, 2460, 1440, 330});
-    f.label("Label4", {240, 2940, 2040, 255}, "INDUTTANZA in uH");
-    f.textBox("txtl", {2400, 2880, 1440, 330});
-    f.label("Label1", {240, 3360, 2040, 255}, "CAPACITA' in pF");
-    f.textBox("txtc", {2400, 3300, 1440, 330});
-    f.label("Label5", {240, 3780, 2040, 255}, "FREQUENZA  in MHz ");
-    f.textBox("txtf", {2400, 3720, 1440, 330});
+    RlcInputBoxes(f);
 
     f.label("lblimp", {240, 4260, 5520, 255});
     f.label("lblfi", {240, 4620, 5520, 255});

@@ -1,13 +1,10 @@
 // Impedance and phase of R, L and C in series at one frequency.
+#include "calc/lcr/rlc_inputs.hpp"
 #include "calc/schematic.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
 namespace {
-
-struct Vars {
-    FormValue r, l, c, f;  // reloaded on every click
-};
 
 void BlankResults(FormContext& f) {
     f.setCaption("lblimp", "");
@@ -15,15 +12,11 @@ void BlankResults(FormContext& f) {
 }
 
 void cmdcalcola_Click(FormContext& f) {
-    Vars& m = f.values<Vars>();
-    m.r = f.read("txtr");
-    m.l = f.read("txtl");
-    m.c = f.read("txtc");
-    m.f = f.read("txtf");
-    if (MissingDataSilentNegative(f, m.r * m.l * m.c * m.f, "txtr")) return;
+    const RlcValues& m = ReadRlc(f);
+    if (MissingDataSilentNegative(f, m.product(), "txtr")) return;
 
-    const FormValue xl = 6.2831852 * (m.f * m.l);
-    const FormValue xc = 159154.976203 / (m.f * m.c);
+    const FormValue xl = m.xl();
+    const FormValue xc = m.xc();
     const std::string z = f.picture(Sqr(Power(m.r, 2) + Power(xl - xc, 2)), "#,##0.#");
     const FormValue phase = ReadBack(f, Atn((xl - xc) / m.r) * 180 / 3.14159265358979, "#,##0.##");
 
@@ -51,14 +44,7 @@ CalculatorForm frmRLCserie() {
     CalculatorForm f("frmRLCserie", "IMPEDENZA :  R + L + C  serie", {1800, 1500, 6120, 6330});
     DrawCircuit(f);
 
-    f.label("Label3", {240, 2520, 2040, 255}, "RESISTENZA  in Ohm");
-    f.textBox("txtr", {2400, 2460, 1440, 330});
-    f.label("Label4", {240, 2940, 2040, 255}, "INDUTTANZA in uH");
-    f.textBox("txtl", {2400, 2880, 1440, 330});
-    f.label("Label1", {240, 3360, 2040, 255}, "CAPACITA' in pF");
-    f.textBox("txtc", {2400, 3300, 1440, 330});
-    f.label("Label5", {240, 3780, 2040, 255}, "FREQUENZA  in MHz ");
-    f.textBox("txtf", {2400, 3720, 1440, 330});
+    RlcInputBoxes(f);
 
     f.label("lblimp", {240, 4260, 5520, 255});
     f.label("lblfi", {240, 4620, 5520, 255});

@@ -31,7 +31,7 @@ void cmdcalcola_Click(FormContext& f) {
                          "lunghezza del filo: " + f.numberText(FloorValue(((d / 10) * 3.14) * turns)) + " cm.");
         } else {
             const FormValue l = ToSingle((Power(x, 2) * d) / (1010 * ((s / d) + 0.45)));
-            const FormValue rounded = ToSingle(FormValue(f.textValue(f.fixed(l, 2))));
+            const FormValue rounded = ReadBackFixedSingle(f, l, 2);
             f.setCaption("lbloutput", "microHenry :   " + f.numberText(rounded));
             f.setCaption("lbllunghezzafilo",
                          "lunghezza del filo : " + f.numberText(FloorValue(((d / 10) * 3.14) * x)) + " cm.");

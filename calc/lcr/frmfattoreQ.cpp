@@ -1,87 +1,38 @@
 // The Q and the 3 dB bandwidth of an R L C circuit at resonance, series and
 // parallel, with its impedance.
-#include "calc/lcr/resonance_circuits.hpp"
+#include "calc/lcr/resonance.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
 namespace {
 
-struct Vars {
-    FormValue r, l, c;  // ohm, microhenry, picofarad, reloaded on every click
-};
-
 void cmdcalcola_Click(FormContext& f) {
-    Vars& m = f.values<Vars>();
-    m.r = f.read("txtR");
-    m.l = f.read("txtL");
-    m.c = f.read("txtC");
-    if (MissingDataSilentNegative(f, m.r * m.l * m.c, "txtC")) return;
-    if (m.r < 0.05) {
-        f.ShowMessage("RESISTENZA TROPPO PICCOLA", 48, "MESSAGGIO DI AVVISO");
-        f.setFocus("txtR");
-        return;
-    }
-
-    const FormValue mhz = 159.155 / Sqr(m.c * m.l);
-    const FormValue xl = 6.28 * (mhz * m.l);
-    const FormValue q = xl / m.r;
-    const FormValue khz = (mhz / q) * 1000;
-
-    // The series bandwidth is shown as pictured, point and separators included.
-    const std::string qText = f.picture(q, "##0.#");
-    const std::string bandwidthText = f.picture(khz, "##,##0.###");
+    const std::optional<Resonance> m = ResonanceAtClick(f);
+    if (!m) return;
     // Across the tank the resistance gives the inverse ratio, R / XL, from the
     // unrounded values.
-    const FormValue qParallel = m.r / xl;
-    const FormValue khzParallel = (mhz / qParallel) * 1000;
-    const std::string qParallelText = f.picture(qParallel, "##0.#");
+    const FormValue qParallel = m->r / m->xl;
+    const FormValue khzParallel = (m->mhz / qParallel) * 1000;
     const FormValue bandwidthParallel = ReadBack(f, khzParallel, "##,##0.###");
 
-    const std::string mhzText = f.picture(mhz, "###,##0.###");
-    const FormValue& zSeries = m.r;
-    const FormValue zParallel = ReadBack(f, (m.l * Power(FormValue::Whole(10), 6)) / (m.c * m.r), "###,##0.#");
-
-    f.setCaption("lblfrequenza", "FREQUENZA DI RISONANZA : " + mhzText + " MHz");
-    f.setCaption("lblzserie", "IMPEDENZA SERIE : " + f.numberText(zSeries) + " Ohm");
-    f.setCaption("lblzparallelo", "IMPEDENZA PARALLELO : " + f.numberText(zParallel) + " Ohm");
-    f.setCaption("lblqserie", "IL Q DEL CIRCUITO SERIE E' =  " + qText);
-    f.setCaption("lbllbserie", "LARGHEZZA DI BANDA SERIE = " + bandwidthText + " KHz");
-    f.setCaption("lblqparallelo", "IL Q DEL CIRCUITO PARALLELO E' =  " + qParallelText);
+    ShowResonance(f, *m);
+    // The series bandwidth is shown as pictured, point and separators included.
+    f.setCaption("lbllbserie", "LARGHEZZA DI BANDA SERIE = " + f.picture(m->khz, "##,##0.###") + " KHz");
+    f.setCaption("lblqparallelo", "IL Q DEL CIRCUITO PARALLELO E' =  " + f.picture(qParallel, "##0.#"));
     f.setCaption("lbllbparallelo", "LARGHEZZA DI BANDA PARALLELO = " + f.numberText(bandwidthParallel) + " KHz");
 }
-
-void cdmesci_Click(FormContext& f) { f.close(); }
 
 }  // namespace
 
 CalculatorForm frmfattoreQ() {
     CalculatorForm f("frmfattoreQ", "CALCOLO DEL  FATTORE DI MERITO E DELLA LARGHEZZA DI BANDA", {1800, 1200, 9600, 7410});
-    ResonanceCircuits(f);
-
+    ResonanceWindow(f, "2");
     f.label("Label9", {240, 120, 9000, 720},
             "SI DETERMINA IL FATTORE DI MERITO E LA LARGHEZZA DI BANDA  A 3 dB  IN UN CIRCUITO  R-L-C  IN "
             "RISONANZA, SUPPONENDO CHE I COMPONENTI SIANO PRIVI DI PERDITE");
-
-    f.label("lblR", {240, 3300, 3000, 255}, "RESISTENZA IN OHM");
-    f.textBox("txtR", {3360, 3240, 1800, 330}, "2");
-    f.label("lblL", {240, 3720, 3000, 255}, "INDUTTANZA IN microHENRY");
-    f.textBox("txtL", {3360, 3660, 1800, 330});
-    f.label("lblC", {240, 4140, 3000, 255}, "CAPACITA'  IN picoFARAD");
-    f.textBox("txtC", {3360, 4080, 1800, 330});
-
-    f.label("lblfrequenza", {240, 4620, 9000, 255}).font(8, true);
-    f.label("lblzserie", {240, 4920, 9000, 255}).font(8, true);
-    f.label("lblzparallelo", {240, 5220, 9000, 255}).font(8, true);
-    f.label("lblqserie", {240, 5520, 9000, 255}).font(8, true);
-    f.label("lbllbserie", {240, 5820, 9000, 255}).font(8, true);
     f.label("lblqparallelo", {240, 6120, 9000, 255}).font(8, true);
     f.label("lbllbparallelo", {240, 6420, 9000, 255}).font(8, true);
-
-    f.button("cmdcalcola", {6240, 3240, 1800, 480}, "CALCOLA");
-    f.button("cdmesci", {6240, 3840, 1800, 480}, "E S C I");
-
     f.onClick("cmdcalcola", cmdcalcola_Click);
-    f.onClick("cdmesci", cdmesci_Click);
     return f;
 }
 

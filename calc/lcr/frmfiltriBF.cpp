@@ -1,7 +1,6 @@
 // R C filters for audio, 6 dB per octave: a high-pass and a low-pass cell for
 // one cut-off frequency. The capacitor is a standard value picked by the band.
-#include <string>
-
+#include "calc/lcr/audio_cell.hpp"
 #include "calc/schematic.hpp"
 #include "forms/calculation.hpp"
 
@@ -17,37 +16,12 @@ void txtfrequenza_Change(FormContext& f) {
 }
 
 void cmdcalcola_Click(FormContext& f) {
-    FormValue freq = f.read("txtfrequenza");
-    // Out of range is pulled back into it, box and all; there is no message.
-    // Writing the box fires its Change, which blanks the results first.
-    if (freq > 100000) {
-        f.setText("txtfrequenza", "100000");
-        freq = FormValue::Whole(100000);
-    }
-    if (freq < 10) {
-        f.setText("txtfrequenza", "10");
-        freq = FormValue::Whole(10);
-    }
-
-    // The capacitor in pF, by band; the first row that holds decides.
-    FormValue pf;
-    if (freq >= 50000) pf = FormValue::Whole(660);
-    else if (freq >= 10000) pf = FormValue::Whole(800);
-    else if (freq >= 5000) pf = FormValue::Whole(1500);
-    else if (freq >= 1000) pf = FormValue::Whole(4700);
-    else if (freq >= 500) pf = FormValue::Whole(15000);
-    else if (freq >= 100) pf = FormValue::Whole(56000);
-    else pf = FormValue::Whole(220000);
-    const FormValue c = pf / 1000;  // nF
-
-    // Kilohm; both cells take the same R and the same C.
-    const std::string r = f.picture(1000000 / ((6.28 * freq) * c), "#,##0.#");
-    const std::string cText = f.numberText(c) + " nF";
-    const std::string rText = r + " Kohm";
-    f.setCaption("lblC1", cText);
-    f.setCaption("lblC2", cText);
-    f.setCaption("lblR1", rText);
-    f.setCaption("lblR2", rText);
+    // Both cells take the same R and the same C.
+    const AudioCell cell = AudioCellAtClick(f);
+    f.setCaption("lblC1", cell.capacitance);
+    f.setCaption("lblC2", cell.capacitance);
+    f.setCaption("lblR1", cell.resistance);
+    f.setCaption("lblR2", cell.resistance);
 }
 
 void cmdesci_Click(FormContext& f) { f.close(); }

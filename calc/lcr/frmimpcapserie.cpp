@@ -40,7 +40,7 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue i = v / z;
     // The coil voltage stays a text; the capacitor's is read back from its rounded text.
     const std::string vl = f.fixed(i * xl, 1);
-    const FormValue vc = f.textValue(f.fixed(i * xc, 1));
+    const FormValue vc = ReadBackFixed(f, i * xc, 1);
     f.setCaption("lbltensione", "TENSIONE SULLA BOBINA : " + vl + " Volt, IN OPPOSIZIONE AI " + f.numberText(vc) +
                                     " Volt SUL CONDENSATORE");
     // No test on the power here: without one the zeros are printed.

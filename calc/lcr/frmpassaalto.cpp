@@ -2,79 +2,24 @@
 // clicking its picture, the window rearranges itself around it and gives L and C
 // for a cut-off frequency and an impedance.
 #include "calc/coil_handoff.hpp"
+#include "calc/lcr/filter_sections.hpp"
 #include "forms/calculation.hpp"
 
 namespace bm::lcr {
 namespace {
 
-// What a calculation needs, hidden until a section is chosen.
-constexpr const char* kInputs[] = {"lblfrequenza", "lblimpedenza", "txtfrequenza", "txtimpedenza", "cmdcalcola",
-                                   "cmdbobine"};
-
-void Form_Load(FormContext& f) {
-    f.show("lblistruzione");
-    for (const char* c : kInputs) f.hide(c);
-    f.hide("lblinduttanza");
-    f.hide("lblcapacità");
-    f.hide("lblnota");
-}
-
-// The input block takes the place on the right that the other picture leaves.
-void ShowInputs(FormContext& f) {
-    f.move("lblfrequenza", 4180, 1020);
-    f.move("lblimpedenza", 4180, 1700);
-    f.move("txtfrequenza", 6800, 850);
-    f.move("txtimpedenza", 6800, 1550);
-    for (const char* c : kInputs) f.show(c);
-}
-
-void Image1_Click(FormContext& f) {
-    f.show("Image1");
-    f.hide("Image2");
-    f.show("lblpigreco");
-    f.hide("lblT");
-    f.hide("lblistruzione");
-    ShowInputs(f);
-    f.setTooltip("Image1", "");
-    f.setFocus("txtfrequenza");
-}
-
-void Image2_Click(FormContext& f) {
-    f.hide("Image1");
-    f.show("Image2");
-    f.move("Image2", 240, 840);
-    f.hide("lblpigreco");
-    f.show("lblT");
-    f.move("lblT", 940, 640);
-    f.hide("lblistruzione");
-    ShowInputs(f);
-    // The pi picture's tooltip goes here too; the T picture keeps its own.
-    f.setTooltip("Image1", "");
-    f.setFocus("txtfrequenza");
-}
+void Image2_Click(FormContext& f) { ChooseTSection(f, 940, 640); }
 
 void cmdcalcola_Click(FormContext& f) {
-    const FormValue fr = f.read("txtfrequenza");
-    const FormValue z = f.read("txtimpedenza");
-    if (MissingDataSilentNegative(f, fr * z, "txtfrequenza")) return;
-
-    f.move("lblinduttanza", 3700, 2300);
-    f.move("lblcapacità", 3700, 2900);
-    f.show("lblinduttanza");
-    f.show("lblcapacità");
-
-    // The section is the picture still showing. L in microhenry, C in picofarad;
-    // the high-pass C is the same for both sections.
-    const bool pi = f.visible("Image1");
-    const FormValue l = pi ? (0.159 * z) / fr : (0.0796 * z) / fr;
+    const std::optional<FilterInputs> in = FilterAtClick(f);
+    if (!in) return;
+    const FormValue& fr = in->frequency;
+    const FormValue& z = in->impedance;
+    // L in microhenry at the default count of decimals; C in picofarad to a tenth,
+    // read back in single precision. The high-pass C is the same for both sections.
+    const FormValue l = in->pi ? (0.159 * z) / fr : (0.0796 * z) / fr;
     const FormValue c = 159000 / (fr * z);
-    // L at the default count of decimals; C to a tenth, read back in single precision.
-    const std::string lText = f.fixed(l, -1);
-    const FormValue cRounded = ToSingle(FormValue(f.textValue(f.fixed(c, 1))));
-
-    f.setCaption("lblinduttanza", "INDUTTANZA in microHENRY di L : " + lText);
-    f.setCaption("lblcapacità", "CAPACITA' in picoFARAD di C : " + f.numberText(cRounded));
-    f.show("lblnota");
+    ShowFilter(f, f.fixed(l, -1), ReadBackFixedSingle(f, c, 1));
 }
 
 void cmdbobine_Click(FormContext& f) { OpenCoilWindow(f, CoilHandOff::PlaceFirst()); }
@@ -112,8 +57,8 @@ CalculatorForm frmpassaalto() {
     f.label("Label4", {5640, 4440, 900, 255}, "Z9QQX");
     f.button("cmdesci", {7680, 4320, 480, 480}).image("exit");
 
-    f.onLoad(Form_Load);
-    f.onClick("Image1", Image1_Click);
+    f.onLoad(ShowSectionChooser);
+    f.onClick("Image1", ChoosePiSection);
     f.onClick("Image2", Image2_Click);
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdbobine", cmdbobine_Click);

@@ -20,7 +20,7 @@ void cmdcalcola_Click(FormContext& f) {
     // the range is the ratio of those texts: a Cmin that rounds to 0.0 divides by zero.
     const FormValue cmax = f.fixed(25300 / (Power(m.fmin, 2) * m.l), 1);
     const FormValue cmin = f.fixed(25300 / (Power(m.fmax, 2) * m.l), 1);
-    const FormValue range = FormValue(f.textValue(f.fixed(cmax / cmin, 1)));
+    const FormValue range = ReadBackFixed(f, cmax / cmin, 1);
 
     f.setCaption("lblout", "LA CAPACITA' MINIMA E' pF " + cmin.text() + "      LA CAPACITA' MASSIMA E' pF " +
                                cmax.text());

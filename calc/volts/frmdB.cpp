@@ -19,29 +19,23 @@ void Form_Load(FormContext& f) { f.moveWindow(kSmall); }
 
 void Option1_Click(FormContext& f, int index) {
     f.moveWindow(kSmall);
+    // Option 0 gives two ratios from one figure; options 1 and 2 give decibels from two.
+    const bool fromDecibels = index == 0;
+    f.setVisible("lblinput2", !fromDecibels);
+    f.setVisible("txtinput2", !fromDecibels);
+    f.setVisible("lbloutput2", fromDecibels);
+    f.setVisible("lblout2", fromDecibels);
     if (index == 0) {
-        f.hide("lblinput2");
-        f.hide("txtinput2");
-        f.show("lbloutput2");
-        f.show("lblout2");
         f.setCaption("lblinput1", "DECIBEL");
         f.setCaption("lbloutput1", "RAPPORTO  in TENSIONE");
         f.setCaption("lbloutput2", "RAPPORTO in POTENZA");
     }
     if (index == 1) {
-        f.show("lblinput2");
-        f.show("txtinput2");
-        f.hide("lbloutput2");
-        f.hide("lblout2");
         f.setCaption("lblinput1", "TENSIONE ENTRATA");
         f.setCaption("lblinput2", "TENSIONE USCITA");
         f.setCaption("lbloutput1", "DECIBEL");
     }
     if (index == 2) {
-        f.show("lblinput2");
-        f.show("txtinput2");
-        f.hide("lbloutput2");
-        f.hide("lblout2");
         f.setCaption("lblinput1", "POTENZA ENTRATA");
         f.setCaption("lblinput2", "POTENZA USCITA");
         f.setCaption("lbloutput1", "DECIBEL");
@@ -70,7 +64,7 @@ void DecibelsOfRatio(FormContext& f, const FormValue& x, int factor) {
         ratio = x / y;
         f.setCaption("lblvariazione", "DB di ATTENUAZIONE");
     }
-    const FormValue d = Log(ratio) / Log(FormValue::Whole(10)) * factor;
+    const FormValue d = Log10(ratio) * factor;
     f.setCaption("lblout1", f.picture(d, "#0.##"));
     f.show("lblvariazione");
 }

@@ -91,7 +91,7 @@ void FromWatt(FormContext& f, FormValue& w) {
         Warn(f, "VALORE ECCESSIVO", "MESSAGGIO DI AVVISO");
         return;
     }
-    const FormValue t1 = f.picture(Log(w) / Log(FormValue::Whole(10)) * 10, "##0.##");
+    const FormValue t1 = f.picture(Log10(w) * 10, "##0.##");
     const std::string t2 = f.picture(FormValue(f.textValue(t1.text())) + 30, "##0.##");
     // The volts come from the typed watts, multiplied in single precision.
     ShowResults(f, t1.text(), t2, f.picture(Sqr(w * 50), "##0.##"), f.picture(Sqr(w * 75), "##0.##"));

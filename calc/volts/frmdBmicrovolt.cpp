@@ -32,7 +32,7 @@ void txtin_Change(FormContext& f) {
             f.setFocus("txtin");
             m = FormValue::Whole(1);
         }
-        ShowResult(f, Log(m) / Log(FormValue::Whole(10)) * 20);
+        ShowResult(f, Log10(m) * 20);
     }
     if (f.chosen("Option1(1)")) {
         if (m > 120 || m < 0) {
