@@ -1,5 +1,6 @@
 // The coil hand-off: which windows move, where, and in which order against the
-// showing of frmbobine.
+// showing of frmbobine. A second press, the modal rows and the menu item over a
+// hand-off are told in the calling windows' scenarios.
 #include <gtest/gtest.h>
 
 #include "calc/coil_handoff.hpp"
@@ -25,7 +26,6 @@ public:
             h.mover = "frmmostra";
             OpenCoilWindow(f, h);
         });
-        add("frmmodale", [](FormContext& f) { OpenCoilWindow(f, CoilHandOff::Modal()); });
     }
     const CalculatorForm* find(std::string_view name) const override {
         for (const auto& f : callers_)
@@ -71,7 +71,6 @@ protected:
         }
         return steps;
     }
-    Rect Window(const char* form) { return program.state(form)->window; }
 
     HandOffLibrary library;
     HeadlessHost host;
@@ -123,38 +122,6 @@ TEST_F(CoilHandOffTest, MovingAnotherWindowThatIsNotOpenLoadsItHiddenWithoutItsL
     program.open("frmmostra", OpenModeless);
     EXPECT_EQ(program.state("frmmostra")->control(ControlKey::Parse("lblcarica")).text, "CARICATO");
     EXPECT_EQ(program.state("frmmostra")->window.left, 400);
-}
-
-TEST_F(CoilHandOffTest, ASecondPressLeavesOneCoilWindowInPlaceWithItsTexts) {
-    program.open("frmposa", OpenModeless);
-    Press("frmposa");
-    program.edit("frmbobine", ControlKey::Parse("txtinput"), "10");
-    program.moveForm("frmbobine", {5000, 5000, Window("frmbobine").width, Window("frmbobine").height});
-    const std::vector<Step> again = Press("frmposa");
-    ASSERT_EQ(again.size(), 3u);
-    EXPECT_EQ(again[2].kind, K::BringForward);
-    EXPECT_EQ(Window("frmbobine").left, 4100);
-    EXPECT_EQ(Window("frmbobine").top, 3000);
-    EXPECT_EQ(program.state("frmbobine")->control(ControlKey::Parse("txtinput")).text, "10");
-    // The caller may go first; the coil window stays.
-    program.close("frmposa");
-    EXPECT_TRUE(program.state("frmbobine")->shown);
-}
-
-TEST_F(CoilHandOffTest, TheModalHandOffMovesNothing) {
-    program.open("frmmodale", OpenModal);
-    const std::vector<Step> steps = Press("frmmodale");
-    ASSERT_EQ(steps.size(), 1u);
-    EXPECT_EQ(steps[0].kind, K::Open);
-    EXPECT_EQ(program.state("frmbobine")->modality, OpenModal);
-    EXPECT_EQ(Window("frmbobine"), library.find("frmbobine")->window);
-}
-
-TEST_F(CoilHandOffTest, ShowingTheCoilWindowModalWhileAHandOffHasItModelessEndsTheProgram) {
-    program.open("frmposa", OpenModeless);
-    Press("frmposa");
-    EXPECT_EQ(program.open("frmbobine", OpenModal), Program::Status::Faulted);
-    EXPECT_EQ(program.fault(), FaultKind::FormAlreadyShown);
 }
 
 }  // namespace
