@@ -54,12 +54,15 @@ public:
     // A box for a named block (a lamp, a load, "Input"), outline only.
     void box(int left, int top, int width, int height);
 
-private:
+protected:
+    // The raw elements, for drawing vocabularies built on this one.
     ControlDef& line(int x1, int y1, int x2, int y2);
     ControlDef& shape(Rect r, ShapeKind kind);
-    std::string next(const char* stem, int& counter);
     // Leads from the ends to a centred body of the given length; returns the body's start along the axis.
     int leads(int x1, int y1, int x2, int y2, int body);
+
+private:
+    std::string next(const char* stem, int& counter);
 
     CalculatorForm& form_;
     std::string frame_;
