@@ -7,10 +7,13 @@ JOBS       ?= $(shell nproc)
 GENERATOR  := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
 
 BASE_PKGS := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev
-QT_PKGS   := qt6-base-dev libgl-dev xvfb xauth
+QT_PKGS   := qt6-base-dev libgl-dev xvfb xauth desktop-file-utils appstream
+PKG_PKGS  := dpkg-dev fakeroot file lintian
 FUZZ_PKGS := clang libclang-rt-14-dev
 
-.PHONY: deps run test test-release test-asan bench fuzz gallery clean
+PREFIX     ?= /usr/local
+
+.PHONY: deps run test test-release test-asan bench fuzz gallery install package clean
 
 deps:
 	@tools/deps.sh $(BASE_PKGS) $(QT_PKGS)
@@ -49,6 +52,16 @@ fuzz: deps
 	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target number-text-fuzz
 	mkdir -p $(FUZZ_BUILD)/corpus
 	$(FUZZ_BUILD)/bin/number-text-fuzz -max_total_time=60 -max_len=64 $(FUZZ_BUILD)/corpus tests/fuzz/seeds
+
+# DESTDIR is honoured: make install DESTDIR=/tmp/stage PREFIX=/usr
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+# A Debian package in $(BUILD), checked by lintian.
+package: build
+	@tools/deps.sh $(PKG_PKGS)
+	cd $(BUILD) && cpack -G DEB
+	lintian --fail-on error $(BUILD)/bancomisuratore_*.deb
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)
