@@ -1,13 +1,22 @@
 #include "ui/form_window.hpp"
 
+#include <QAction>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QGraphicsOpacityEffect>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QPropertyAnimation>
 #include <QTimer>
 #include <algorithm>
 #include <vector>
 
 #include "ui/accessibility.hpp"
 #include "ui/controls.hpp"
+#include "ui/copy_results.hpp"
 #include "ui/geometry.hpp"
 #include "ui/schematic.hpp"
 
@@ -17,6 +26,9 @@ namespace {
 
 // Frames inside frames go no deeper than this; a frame said to hold itself stops here.
 constexpr int kMaxNesting = 8;
+// How long a note stays before it fades, and how long the fading takes.
+constexpr int kNoteMs = 5000;
+constexpr int kNoteFadeMs = 800;
 
 }  // namespace
 
@@ -46,6 +58,76 @@ FormWindow::FormWindow(const CalculatorForm& def, EventSink& sink) : QWidget(nul
             w->setAccessibleDescription(QString::fromStdString(d.tooltip));
     }
     applyWindow(def_.window);
+    addCopyAction();
+}
+
+void FormWindow::addCopyAction() {
+    auto* copy = new QAction(QStringLiteral("Copia i risultati"), this);
+    copy->setObjectName(QStringLiteral("copyResults"));
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WindowShortcut);
+    connect(copy, &QAction::triggered, this, [this] { copyResults(); });
+    client_->addAction(copy);
+    client_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    // A text box keeps Ctrl+C for a selection of its own; with nothing selected it copies the results.
+    for (const ControlDef& d : def_.controls)
+        if (d.kind == ControlKind::TextBox)
+            if (QWidget* w = control(d.key)) w->installEventFilter(this);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        auto* box = qobject_cast<QLineEdit*>(watched);
+        if (box != nullptr && key->matches(QKeySequence::Copy) && !box->hasSelectedText()) {
+            copyResults();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FormWindow::copyResults() {
+    if (state_ == nullptr) return;
+    QGuiApplication::clipboard()->setText(QString::fromStdString(ResultsText(def_, *state_)));
+}
+
+void FormWindow::showNote(const QString& text) {
+    if (note_ == nullptr) {
+        note_ = new QLabel(this);
+        note_->setObjectName(QStringLiteral("note"));
+        note_->setWordWrap(true);
+        note_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        note_->setStyleSheet(QStringLiteral("QLabel { background: #fff8c4; color: #202020; border: 1px solid #8a7d2a;"
+                                            " border-radius: 4px; padding: 4px 8px; }"));
+        note_->setGraphicsEffect(new QGraphicsOpacityEffect(note_));
+        noteTimer_ = new QTimer(this);
+        noteTimer_->setSingleShot(true);
+        connect(noteTimer_, &QTimer::timeout, this, [this] {
+            auto* fade = new QPropertyAnimation(note_->graphicsEffect(), "opacity", note_);
+            fade->setDuration(kNoteFadeMs);
+            fade->setStartValue(1.0);
+            fade->setEndValue(0.0);
+            connect(fade, &QPropertyAnimation::finished, note_, &QWidget::hide);
+            fade->start(QAbstractAnimation::DeleteWhenStopped);
+        });
+    }
+    static_cast<QGraphicsOpacityEffect*>(note_->graphicsEffect())->setOpacity(1.0);
+    note_->setText(text);
+    const int margin = 8;
+    const int width = std::max(40, this->width() - 2 * margin);
+    note_->setFixedWidth(width);
+    note_->adjustSize();
+    note_->move(margin, height() - note_->height() - margin);
+    note_->raise();
+    note_->show();
+    noteTimer_->start(kNoteMs);
+}
+
+void FormWindow::hideNote() {
+    if (note_ == nullptr) return;
+    noteTimer_->stop();
+    note_->hide();
 }
 
 QWidget* FormWindow::containerWidget(const std::string& container) {
@@ -134,6 +216,7 @@ void FormWindow::applyWindow(const Rect& window) {
 }
 
 void FormWindow::sync(const FormState& state) {
+    state_ = &state;
     const QString title = QString::fromStdString(state.title);
     if (windowTitle() != title) setWindowTitle(title);
     applyWindow(state.window);

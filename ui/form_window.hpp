@@ -10,6 +10,7 @@
 
 #include "forms/form_state.hpp"
 
+class QLabel;
 class QMenuBar;
 class QTimer;
 
@@ -49,6 +50,14 @@ public:
     // The label that captions a text box, if any.
     std::optional<ControlKey> captionOf(const ControlKey& textBox) const;
 
+    // "Copia i risultati" (Ctrl+C, or the window's context menu): the title,
+    // the inputs with their captions and the results, as plain text.
+    void copyResults();
+    // A short note over the bottom of the window that fades after a few seconds.
+    void showNote(const QString& text);
+    QLabel* note() const { return note_; }
+    void hideNote();
+
     // The model unloaded the form: the window goes, and nothing it still
     // reports reaches the model.
     void closeFromModel();
@@ -56,6 +65,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* containerWidget(const std::string& container);
@@ -64,6 +74,7 @@ private:
     void applyWindow(const Rect& window);
     void applyTabOrder();
     void nameTextBoxes(const FormState& state);
+    void addCopyAction();
 
     const CalculatorForm& def_;
     EventSink& sink_;
@@ -74,6 +85,9 @@ private:
     std::map<std::string, SchematicLayer*> layers_;  // by container, "" for the client area
     std::map<ControlKey, ControlKey> captions_;      // text box -> its label
     std::optional<Rect> appliedWindow_;
+    const FormState* state_ = nullptr;  // the record last shown
+    QLabel* note_ = nullptr;
+    QTimer* noteTimer_ = nullptr;
     bool closedByModel_ = false;
     int buildDepth_ = 0;
 };

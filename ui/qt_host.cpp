@@ -203,15 +203,21 @@ void QtHost::focusRequested(FormState& form, const ControlKey& control) {
 void QtHost::printWindow(FormState& form) {
     FormWindow* w = window(form.name());
     if (w == nullptr) return;
-    // The window as it stands: what the logic hid just before is not on paper.
+    // The window as it stands: what the logic hid just before is not on paper,
+    // nor a note left by an earlier print.
     w->sync(form);
+    w->hideNote();
     lastPrinted_ = w->grab().toImage();
     lastOutcome_ = PrintImage(lastPrinted_, QString::fromStdString(form.name()), printSettings_);
-    if (lastOutcome_.where == PrintOutcome::Where::Pdf)
+    // The user is told where the page went, in the window, without a box of the logic's.
+    if (lastOutcome_.where == PrintOutcome::Where::Pdf) {
         std::fprintf(stderr, "bancomisuratore: no printer, the window went to %s\n",
                      lastOutcome_.target.toLocal8Bit().constData());
-    else if (lastOutcome_.where == PrintOutcome::Where::Failed)
+        w->showNote(QStringLiteral("Nessuna stampante: la finestra è stata salvata in %1").arg(lastOutcome_.target));
+    } else if (lastOutcome_.where == PrintOutcome::Where::Failed) {
         std::fprintf(stderr, "bancomisuratore: the window could not be printed\n");
+        w->showNote(QStringLiteral("Stampa non riuscita: la finestra non è stata stampata."));
+    }
 }
 
 void QtHost::faulted(FaultKind kind) {
