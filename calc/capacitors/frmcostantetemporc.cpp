@@ -1,0 +1,63 @@
+// The time constant of a resistor charging a capacitor, or the part that gives
+// a wanted time: megaohm times microfarad is seconds.
+#include "calc/capacitors/time_constant.hpp"
+#include "forms/calculation.hpp"
+
+namespace bm::capacitors {
+namespace {
+
+struct Vars {
+    FormValue a, b;  // the two known quantities, reloaded on every click
+};
+
+const KnownPairs kPairs = {{
+    {"RESISTENZA e CAPACITA'", {"RESISTENZA :", "CAPACITA' :", "TEMPO :"}, {" megaOhm", " microFarad", " secondi"}},
+    {"TEMPO e RESISTENZA", {"TEMPO :", "RESISTENZA :", "CAPACITA' :"}, {" secondi", " megaOhm", " microFarad"}},
+    {"TEMPO e CAPACITA'", {"TEMPO :", "CAPACITA' :", "RESISTENZA :"}, {" secondi", " microFarad", " megaOhm"}},
+}};
+
+const CircuitPart kCapacitor{Part::Capacitor, "lblc", "C"};
+
+void Option1_Click(FormContext& f, int index) { ShowKnownPair(f, kPairs.at(static_cast<std::size_t>(index)), kCapacitor); }
+
+void cmdcalcola_Click(FormContext& f) {
+    Vars& m = f.values<Vars>();
+    m.a = f.read("txtinput1");
+    m.b = f.read("txtinput2");
+    if (MissingDataSilentNegative(f, m.a * m.b, "txtinput1")) return;
+
+    // The computed part shows on the drawing as the result label reads.
+    if (f.chosen("Option1(0)")) {
+        f.setCaption("lblinput(3)", f.fixed(m.a * m.b, 4));
+        f.setNumber("lblr", m.a);
+        f.setNumber("lblc", m.b);
+    }
+    if (f.chosen("Option1(1)")) {
+        f.setCaption("lblinput(3)", f.fixed(m.a / m.b, 4));
+        f.setNumber("lblr", m.b);
+        f.setCaption("lblc", f.text("lblinput(3)"));
+    }
+    if (f.chosen("Option1(2)")) {
+        f.setCaption("lblinput(3)", f.fixed(m.a / m.b, 4));
+        f.setCaption("lblr", f.text("lblinput(3)"));
+        f.setNumber("lblc", m.b);
+    }
+}
+
+void cmdesci_Click(FormContext& f) { f.close(); }
+
+}  // namespace
+
+CalculatorForm frmcostantetemporc() {
+    CalculatorForm f("frmcostantetemporc", "Calcolo costante di tempo in un circuito con  Resistenza e Capacità",
+                     {2100, 1500, 8640, 5040});
+    TimeConstantControls(f, kPairs, kCapacitor,
+                         "LA COSTANTE DI TEMPO RAPPRESENTA IL TEMPO IMPIEGATO DA UN CONDENSATORE A CARICARSI AL 63 %  "
+                         "ATTRAVERSO UNA RESISTENZA");
+    f.onClick("Option1", Option1_Click);
+    f.onClick("cmdcalcola", cmdcalcola_Click);
+    f.onClick("cmdesci", cmdesci_Click);
+    return f;
+}
+
+}  // namespace bm::capacitors
