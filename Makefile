@@ -42,8 +42,12 @@ bench: build
 	$(BUILD)/bin/core-bench
 	@if [ -x tools/bench-startup.sh ]; then tools/bench-startup.sh $(BUILD); fi
 
+# GALLERY_SCALE=1.25, 1.5, 2: the windows as a HiDPI screen shows them, in build/gallery@SCALE.
+GALLERY_SCALE ?= 1
+GALLERY_DIR := $(BUILD)/gallery$(if $(filter 1,$(GALLERY_SCALE)),,@$(GALLERY_SCALE))
+
 gallery: build
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bin/bancomisuratore-gallery $(BUILD)/gallery
+	QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=$(GALLERY_SCALE) $(BUILD)/bin/bancomisuratore-gallery $(GALLERY_DIR)
 
 fuzz: deps
 	@tools/deps.sh $(FUZZ_PKGS)
