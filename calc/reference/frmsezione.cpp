@@ -40,7 +40,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmsezione() {
-    CalculatorForm f("frmsezione", "Diametro filo di rame ", {3000, 2400, 6180, 4380});
+    CalculatorForm f("frmsezione", "Diametro filo di rame ", {3000, 2400, 6180, 3480});
 
     f.label("Label1", {240, 120, 5580, 480},
             "calcolo del diametro di un filo di rame in relazione all'intensità di corrente")
