@@ -4,7 +4,7 @@
 namespace bm::reference {
 namespace {
 
-// The blanks line the figures up by eye in the list's font.
+// The blanks belong to the rows: they set the signs and figures apart.
 constexpr const char* kRows[] = {
     "MAGNESIO        + 1,20",
     "ALLUMINIO        + 0,95",
