@@ -49,7 +49,7 @@ void DrawLine(CalculatorForm& form) {
     s.witness(x - dia / 2, upper, x - dia / 2, 1260);
     s.witness(x + dia / 2, upper, x + dia / 2, 1260);
     s.measure(x - dia / 2, 1200, x + dia / 2, 1200);
-    Letter(form, "Label9", x - 540, 1200, "d");
+    Letter(form, "Label9", x - 420, 1200, "d");
 }
 
 }  // namespace

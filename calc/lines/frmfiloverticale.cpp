@@ -28,7 +28,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmfiloverticale() {
-    CalculatorForm f("frmfiloverticale", "CAPACITA' DI UN CONDUTTORE VERTICALE", {2160, 1800, 7680, 4320});
+    CalculatorForm f("frmfiloverticale", "CAPACITA' DI UN CONDUTTORE VERTICALE", {2160, 1800, 7680, 3720});
     f.label("Label3", {240, 180, 7080, 480},
             "QUANDO LA DISTANZA DALLA TERRA DELL'ESTREMO INFERIORE E'  PICCOLA IN PROPORZIONE ALLA LUNGHEZZA "
             "DEL CONDUTTORE  ")

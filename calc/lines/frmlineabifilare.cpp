@@ -40,7 +40,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 
 CalculatorForm frmlineabifilare() {
     CalculatorForm f("frmlineabifilare", "CAPACITA' E INDUTTANZA DI UNA LINEA AEREA BIFILARE",
-                     {2160, 1800, 7680, 5580});
+                     {2160, 1800, 7680, 5190});
     f.label("Label4", {240, 180, 7080, 480},
             "I DUE FILI DEVONO AVERE DIAMETRO UGUALE E LA DISTANZA DAL SUOLO SI SUPPONE TALE  DA NON "
             "INFLUENZARE L'INDUTTANZA DELLA LINEA")

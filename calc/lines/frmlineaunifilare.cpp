@@ -37,7 +37,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 
 CalculatorForm frmlineaunifilare() {
     CalculatorForm f("frmlineaunifilare", "CAPACITA' E INDUTTANZA DI UNA LINEA AEREA UNIFILARE",
-                     {2160, 1800, 7680, 4260});
+                     {2160, 1800, 7680, 3900});
     f.label("Label3", {240, 180, 7080, 255}, "NELL'IPOTESI CHE L'ALTRO CONDUTTORE SIA COSTITUITO DALLA TERRA")
         .aligned(Align::Center);
     f.label("Label1", {240, 765, 5160, 255}, "DIAMETRO DEL FILO IN MILLIMETRI");

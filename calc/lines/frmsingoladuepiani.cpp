@@ -48,7 +48,7 @@ void DrawLine(CalculatorForm& form) {
     s.witness(x - dia / 2, y, x - dia / 2, 1740);
     s.witness(x + dia / 2, y, x + dia / 2, 1740);
     s.measure(x - dia / 2, 1680, x + dia / 2, 1680);
-    Letter(form, "Label8", x - 540, 1680, "d");
+    Letter(form, "Label8", x - 480, 1680, "d");
 }
 
 }  // namespace
