@@ -74,7 +74,7 @@ void Drawing(CalculatorForm& f) {
     f.label("Label14", {8160, 4080, 660, 255}, "100 nF");
     f.label("Label11", {9110, 3960, 700, 480}, "220 microF");
 
-    f.label("lblr1", {6480, 3480, 960, 255}, "R1");
+    f.label("lblr1", {5160, 3480, 1020, 255}, "R1").aligned(Align::Right);
     f.label("lblr2", {6480, 4680, 960, 255}, "R2");
     f.label("lblvin", {240, 2520, 2400, 255}, "V. In");
     f.label("lblvout", {7200, 2520, 2400, 255}, "V. Out").aligned(Align::Right);

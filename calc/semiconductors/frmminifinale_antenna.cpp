@@ -73,8 +73,8 @@ void Drawing(CalculatorForm& f) {
     f.label("Label7", {6900, 1980, 1560, 255}, "coax 50 ohm");
 
     f.label("lblbobina", {4320, 2520, 1560, 255}, "bobina").aligned(Align::Center);
-    f.label("lblc1", {4380, 3420, 1440, 255}, "C 1");
-    f.label("lblc2", {6180, 3420, 1440, 255}, "C 2");
+    f.label("lblc1", {4440, 3420, 1440, 255}, "C 1");
+    f.label("lblc2", {6240, 3420, 1440, 255}, "C 2");
 }
 
 }  // namespace

@@ -86,7 +86,7 @@ void Drawing(CalculatorForm& f) {
 
     f.label("lblc1", {1320, 2430, 1320, 255}).aligned(Align::Center);
     f.label("lblbobina", {3000, 2430, 1620, 255}).aligned(Align::Center);
-    f.label("lblc2", {2900, 3840, 1500, 255});
+    f.label("lblc2", {2940, 3840, 1500, 255});
 }
 
 }  // namespace

@@ -97,7 +97,7 @@ void Drawing(CalculatorForm& f) {
 
     f.label("lblc1", {720, 2430, 1320, 255}, "C1").aligned(Align::Center);
     f.label("lblbobina", {2280, 2430, 1620, 255}, "bobina").aligned(Align::Center);
-    f.label("lblc2", {2280, 3660, 1560, 255}, "C2");
+    f.label("lblc2", {2340, 3660, 1560, 255}, "C2");
 }
 
 }  // namespace
