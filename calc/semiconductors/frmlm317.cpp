@@ -70,7 +70,7 @@ void Drawing(CalculatorForm& f) {
 
     f.label("Label8", {1710, 4080, 900, 255}, "2.200 uF");
     f.label("Label9", {2910, 4080, 660, 255}, "100 nF");
-    f.label("Label10", {4260, 4800, 960, 255}, "220 microF").aligned(Align::Right);
+    f.label("Label10", {4140, 4800, 960, 255}, "220 microF").aligned(Align::Right);
     f.label("Label14", {8160, 4080, 660, 255}, "100 nF");
     f.label("Label11", {9110, 3960, 700, 480}, "220 microF");
 
