@@ -3,12 +3,12 @@
 namespace bm::antennas {
 
 void SignalInputs(CalculatorForm& f, int top) {
-    f.label("Label2", {240, top + 60, 4440, 255}, "POTENZA DEL TRASMETTITORE IN WATT");
-    f.textBox("txtwatt", {4800, top, 1440, 330});
-    f.label("Label3", {240, top + 480, 4440, 255}, "DISTANZA DAL TRASMETTITORE IN KM");
-    f.textBox("txtdistanza", {4800, top + 420, 1440, 330});
-    f.label("Label4", {240, top + 900, 4440, 255}, "FREQUENZA DI TRASMISSIONE IN Mhz");
-    f.textBox("txtfrequenza", {4800, top + 840, 1440, 330});
+    f.label("Label2", {240, top + 60, 4920, 255}, "POTENZA DEL TRASMETTITORE IN WATT");
+    f.textBox("txtwatt", {5280, top, 1440, 330});
+    f.label("Label3", {240, top + 480, 4920, 255}, "DISTANZA DAL TRASMETTITORE IN KM");
+    f.textBox("txtdistanza", {5280, top + 420, 1440, 330});
+    f.label("Label4", {240, top + 900, 4920, 255}, "FREQUENZA DI TRASMISSIONE IN Mhz");
+    f.textBox("txtfrequenza", {5280, top + 840, 1440, 330});
 }
 
 void SignalResults(CalculatorForm& f, int top, int width) {

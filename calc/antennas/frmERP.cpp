@@ -71,9 +71,9 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmERP() {
-    CalculatorForm f("frmERP", "POTENZA EFFETTIVA IRRADIATA - E R P", {1200, 600, 9360, 7320});
+    CalculatorForm f("frmERP", "POTENZA EFFETTIVA IRRADIATA - E R P", {1200, 600, 9360, 6600});
 
-    f.frame("Frame1", {6240, 1560, 2640, 2160}, " Tipi di cavo ").tip("NATURALMENTE IMPEDENZE DIVERSE DEVONO ESSERE ADATTATE");
+    f.frame("Frame1", {6240, 1200, 2640, 2160}, " Tipi di cavo ").tip("NATURALMENTE IMPEDENZE DIVERSE DEVONO ESSERE ADATTATE");
     constexpr const char* kAdapt = "IMPEDENZE DIVERSE DEVONO ESSERE ADATTATE";
     f.option("Option1(0)", {180, 300, 2280, 285}, "RG 58").in("Frame1");
     f.option("Option1(1)", {180, 660, 2280, 285}, "RG 8 - 213").in("Frame1");
@@ -81,29 +81,29 @@ CalculatorForm frmERP() {
     f.option("Option1(3)", {180, 1380, 2280, 285}, "RG 217").in("Frame1");
     f.option("Option1(4)", {180, 1740, 2280, 285}, "RG 62").in("Frame1").tip(kAdapt);
 
-    f.label("Label1", {240, 120, 8640, 1200},
+    f.label("Label1", {240, 120, 8640, 720},
             "LA POTENZA EFFETTIVA IRRADIATA E' FUNZIONE DELLA POTENZA DEL TX, DELLA FREQUENZA,  DELLA LUNGHEZZA  "
             "E  QUALITA' DELLA LINEA,   DELLE PERDITE COMPLESSIVE E DEL GUADAGNO DELL'ANTENNA. LA POTENZA CHE "
             "GIUNGE ALL'ANTENNA, MOLTIPLICATA PER IL SUO GUADAGNO, E' LA POTENZA EFFETTIVA IRRADIATA: E R P");
 
-    f.label("Label2", {240, 1620, 3960, 255}, "FREQUENZA in MHz");
-    f.textBox("txtfrequenza", {4320, 1560, 1440, 330});
-    f.label("Label3", {240, 2040, 3960, 255}, "POTENZA D' USCITA TX in Watt");
-    f.textBox("txtW", {4320, 1980, 1440, 330}).tip("POTENZA MEDIA AL WATTMETRO");
-    f.label("Label4", {240, 2460, 3960, 255}, "LUNGHEZZA DEL COAX in mt");
-    f.textBox("txtlunghezza", {4320, 2400, 1440, 330});
-    f.label("Label5", {240, 2880, 3960, 255}, "NR. DEI CONNETTORI USATI");
-    f.textBox("txtnr", {4320, 2820, 1440, 330});
-    f.label("Label6", {240, 3300, 3960, 480},
+    f.label("Label2", {240, 1260, 3960, 255}, "FREQUENZA in MHz");
+    f.textBox("txtfrequenza", {4320, 1200, 1440, 330});
+    f.label("Label3", {240, 1680, 3960, 255}, "POTENZA D' USCITA TX in Watt");
+    f.textBox("txtW", {4320, 1620, 1440, 330}).tip("POTENZA MEDIA AL WATTMETRO");
+    f.label("Label4", {240, 2100, 3960, 255}, "LUNGHEZZA DEL COAX in mt");
+    f.textBox("txtlunghezza", {4320, 2040, 1440, 330});
+    f.label("Label5", {240, 2520, 3960, 255}, "NR. DEI CONNETTORI USATI");
+    f.textBox("txtnr", {4320, 2460, 1440, 330});
+    f.label("Label6", {240, 2940, 3960, 480},
             "GUADAGNO ISO DELL'ANTENNA in dB (dipolo 1/2 onda =  + 2.14 dB dipolo ISO)");
-    f.textBox("txtguadagno", {4320, 3300, 1440, 330}).tip("guadagno dell'ant. rispetto al dipolo isotropico");
+    f.textBox("txtguadagno", {4320, 2940, 1440, 330}).tip("guadagno dell'ant. rispetto al dipolo isotropico");
 
-    f.label("lblerp", {240, 4080, 8640, 255}).font(9, true);
-    f.label("lblpt", {240, 4500, 8640, 255}).font(9, true);
-    f.label("Label7", {240, 5040, 8640, 255}, "I RISULTATI SONO OVVIAMENTE TEORICI ED INDICATIVI");
+    f.label("lblerp", {240, 3720, 8640, 255}).font(9, true);
+    f.label("lblpt", {240, 4140, 8640, 255}).font(9, true);
+    f.label("Label7", {240, 4680, 8640, 255}, "I RISULTATI SONO OVVIAMENTE TEORICI ED INDICATIVI");
 
-    f.button("cmdcalcola", {240, 5640, 1800, 480}, "CALCOLA");
-    f.button("cmdesci", {2280, 5640, 1800, 480}, "E S C I");
+    f.button("cmdcalcola", {240, 5280, 1800, 480}, "CALCOLA");
+    f.button("cmdesci", {2280, 5280, 1800, 480}, "E S C I");
 
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdesci", cmdesci_Click);

@@ -40,7 +40,7 @@ CalculatorForm frmresradiazione() {
                      {1200, 1200, 8640, 6180});
     DrawDipole(f);
     f.label("lbllunghezza", {5220, 180, 1200, 255}).aligned(Align::Center).font(8, true);
-    f.label("Label5", {5220, 960, 1200, 255}, "max 1/4 lambda").aligned(Align::Center);
+    f.label("Label5", {5040, 960, 1560, 255}, "max 1/4 lambda").aligned(Align::Center);
     f.label("Label2", {4440, 1320, 1200, 255}, "discesa coax");
 
     RadiationInputs(f, 240, 2100, "LUNGHEZZA DEL DIPOLO in mt.  :");

@@ -34,13 +34,13 @@ void DrawWhip(CalculatorForm& form) {
 
 CalculatorForm frmresradiazionestilo() {
     CalculatorForm f("frmresradiazionestilo", "RESISTENZA DI RADIAZIONE APPROSSIMATIVA DI UNO STILO",
-                     {1200, 1200, 8640, 6480});
+                     {1200, 1200, 7440, 6480});
     DrawWhip(f);
     f.label("lbllunghezza", {60, 960, 960, 255}).aligned(Align::Center).font(8, true);
     f.label("Label2", {1740, 2340, 1200, 255}, "discesa coax");
 
     RadiationInputs(f, 2760, 600, "LUNGHEZZA DELLO STILO in mt.  :");
-    RadiationResults(f, 3420, 8040);
+    RadiationResults(f, 3420, 6840);
 
     f.onClick("cmdcalcola", cmdcalcola_Click);
     return f;

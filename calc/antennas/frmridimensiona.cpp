@@ -65,7 +65,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmridimensiona() {
-    CalculatorForm f("frmridimensiona", "RIDIMENSIONAMENTO ANTENNA", {1800, 1200, 8400, 6840});
+    CalculatorForm f("frmridimensiona", "RIDIMENSIONAMENTO ANTENNA", {1800, 1200, 8400, 6480});
 
     f.frame("Frame1", {240, 1320, 3240, 1380}, " Tipo di antenna ");
     f.option("Option1(0)", {180, 300, 2880, 285}, "DIPOLO 1/2  LAMBDA").in("Frame1");

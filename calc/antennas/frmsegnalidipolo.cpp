@@ -20,7 +20,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmsegnalidipolo() {
-    CalculatorForm f("frmsegnalidipolo", "INTESITA' DEI SEGNALI D'ANTENNA", {1200, 900, 9000, 6960});
+    CalculatorForm f("frmsegnalidipolo", "INTESITA' DEI SEGNALI D'ANTENNA", {1200, 900, 9000, 5940});
 
     f.label("Label1", {240, 120, 8400, 480},
             "VALORE TEORICO DEL FLUSSO DI POTENZA  DEI SEGNALI IRRADIATI DA UN DIPOLO A MEZZ ' ONDA "
@@ -32,8 +32,8 @@ CalculatorForm frmsegnalidipolo() {
             "NELL'IPOTESI CHE IL SEGNALE VENGA TRASMESSO E RICEVUTO DA DUE DIPOLI  A MEZZ' ONDA E SENZA TENERE "
             "CONTO DELLE VARIAZIONI DI PROPAGAZIONE");
 
-    f.button("cmdcalcola", {240, 5700, 1800, 480}, "CALCOLA");
-    f.button("cmdesci", {2280, 5700, 1800, 480}, "E S C I");
+    f.button("cmdcalcola", {240, 4740, 1800, 480}, "CALCOLA");
+    f.button("cmdesci", {2280, 4740, 1800, 480}, "E S C I");
 
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdesci", cmdesci_Click);

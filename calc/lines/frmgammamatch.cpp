@@ -57,7 +57,7 @@ void DrawGamma(CalculatorForm& form) {
 }  // namespace
 
 CalculatorForm frmgammamatch() {
-    CalculatorForm f("frmgammamatch", "ADATTATORE A GAMMA MATCH", {1200, 600, 8760, 6900});
+    CalculatorForm f("frmgammamatch", "ADATTATORE A GAMMA MATCH", {1200, 600, 8760, 6480});
 
     DrawGamma(f);
     f.label("Label4", {2640, 600, 1440, 255}, "centro radiatore").aligned(Align::Right);

@@ -43,7 +43,7 @@ void cmdchiudi_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmgradi() {
-    CalculatorForm f("frmgradi", "Conversione metri e gradi elettrici", {2100, 1500, 7500, 5820});
+    CalculatorForm f("frmgradi", "Conversione metri e gradi elettrici", {2100, 1500, 7500, 5160});
 
     f.frame("Frame1", {240, 960, 3000, 1080}, "Conversione");
     f.option("Option1(0)", {180, 300, 2640, 285}, "da metri a gradi").in("Frame1");

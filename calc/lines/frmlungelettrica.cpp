@@ -29,19 +29,19 @@ void cmdcalcola_Click(FormContext& f) {
 
 void cmdesci_Click(FormContext& f) { f.close(); }
 
-// The coax from the meter's end on the left, with a tick where each of the
-// three lengths ends; the three numbers stand over their ticks.
+// The coax from the meter's end on the left, with a tick where half, one and
+// one and a half electrical waves end; the three numbers stand over their ticks.
 void DrawLine(CalculatorForm& form) {
     AntennaDrawing a(form);
-    constexpr int kY = 4440;
+    constexpr int kY = 3600;
     a.coax(600, kY, 7200, kY);
-    for (int x : {3000, 4860, 6720}) a.wire(x, kY - 180, x, kY + 180);
+    for (int x : {2700, 4800, 6900}) a.wire(x, kY - 180, x, kY + 180);
 }
 
 }  // namespace
 
 CalculatorForm frmlungelettrica() {
-    CalculatorForm f("frmlungelettrica", "Lunghezza elettrica cavi coassiali", {1800, 1200, 7680, 6420});
+    CalculatorForm f("frmlungelettrica", "Lunghezza elettrica cavi coassiali", {1800, 1200, 7680, 5520});
 
     f.frame("Frame1", {240, 1320, 2400, 1080}, "Tipo di cavo coax");
     f.option("Option1(0)", {180, 300, 2040, 285}, "50 Ohm").in("Frame1");
@@ -60,13 +60,13 @@ CalculatorForm frmlungelettrica() {
     f.label("lbllungelettrici", {2880, 2400, 4440, 255}).font(8, true);
 
     DrawLine(f);
-    f.label("lbltrattidilinea", {2460, 3900, 1080, 255}).aligned(Align::Center).font(8, true);
-    f.label("lbltrattidilinea1", {4320, 3900, 1080, 255}).aligned(Align::Center).font(8, true);
-    f.label("lbltrattidilinea2", {6180, 3900, 1080, 255}).aligned(Align::Center).font(8, true);
+    f.label("lbltrattidilinea", {2160, 3120, 1080, 255}).aligned(Align::Center).font(8, true);
+    f.label("lbltrattidilinea1", {4260, 3120, 1080, 255}).aligned(Align::Center).font(8, true);
+    f.label("lbltrattidilinea2", {6360, 3120, 1080, 255}).aligned(Align::Center).font(8, true);
 
-    f.button("cmdcalcola", {240, 4980, 1800, 480}, "CALCOLA");
-    f.button("cmdesci", {2280, 4980, 1800, 480}, "E S C I");
-    f.label("Label4", {6120, 5100, 1200, 255}, "Z9QQX");
+    f.button("cmdcalcola", {240, 4140, 1800, 480}, "CALCOLA");
+    f.button("cmdesci", {2280, 4140, 1800, 480}, "E S C I");
+    f.label("Label4", {6120, 4260, 1200, 255}, "Z9QQX");
 
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdesci", cmdesci_Click);

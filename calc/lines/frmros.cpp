@@ -29,7 +29,7 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 }  // namespace
 
 CalculatorForm frmros() {
-    CalculatorForm f("frmros", "IMPEDENZA DELL'ANTENNA IN RAPPORTO AL ROS", {1800, 1500, 7800, 5400});
+    CalculatorForm f("frmros", "IMPEDENZA DELL'ANTENNA IN RAPPORTO AL ROS", {1800, 1500, 7800, 4980});
 
     f.label("Label1", {240, 120, 7200, 960},
             "Noto il rapporto di onde stazionarie e supponendo che le impedenze del TX e del cavo siano = 50 Ohm, "
