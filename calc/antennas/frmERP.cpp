@@ -73,7 +73,8 @@ void cmdesci_Click(FormContext& f) { f.close(); }
 CalculatorForm frmERP() {
     CalculatorForm f("frmERP", "POTENZA EFFETTIVA IRRADIATA - E R P", {1200, 600, 9360, 6600});
 
-    f.frame("Frame1", {6240, 1200, 2640, 2160}, " Tipi di cavo ").tip("NATURALMENTE IMPEDENZE DIVERSE DEVONO ESSERE ADATTATE");
+    f.frame("Frame1", {6240, 1200, 2640, 2160}, " Tipi di cavo ")
+        .tip("NATURALMENTE IMPEDENZE DIVERSE DEVONO ESSERE ADATTATE");
     constexpr const char* kAdapt = "IMPEDENZE DIVERSE DEVONO ESSERE ADATTATE";
     f.option("Option1(0)", {180, 300, 2280, 285}, "RG 58").in("Frame1");
     f.option("Option1(1)", {180, 660, 2280, 285}, "RG 8 - 213").in("Frame1");
