@@ -155,6 +155,13 @@ void AntennaDrawing::helix(int x1, int x2, int y, int turns, int diameter) {
     }
 }
 
+void AntennaDrawing::linearTrap(int x1, int x2, int y, int gap) {
+    radiator(x1, y - gap, x2, y - gap);
+    radiator(x1, y, x1, y - gap);
+    capacitor(x2, y - gap, x2, y);
+    insulator((x1 + x2) / 2, y);
+}
+
 void AntennaDrawing::mast(int x, int top, int bottom) { box(x - 45, top, 90, bottom - top); }
 
 }  // namespace bm
