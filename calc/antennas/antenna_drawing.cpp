@@ -63,9 +63,9 @@ void AntennaDrawing::radials(int x, int y, int reach, int drop, int count) {
     radiator(x, y, x - reach, y + drop);
     radiator(x, y, x + reach, y + drop);
     if (count >= 4) {
-        // The two behind, foreshortened.
-        radiator(x, y, x - reach / 2, y + drop / 2);
-        radiator(x, y, x + reach / 2, y + drop / 2);
+        // The two behind, foreshortened and flatter, so they part from the front pair.
+        radiator(x, y, x - reach * 3 / 5, y + drop / 5);
+        radiator(x, y, x + reach * 3 / 5, y + drop / 5);
     }
 }
 
