@@ -46,8 +46,13 @@ bench: build
 GALLERY_SCALE ?= 1
 GALLERY_DIR := $(BUILD)/gallery$(if $(filter 1,$(GALLERY_SCALE)),,@$(GALLERY_SCALE))
 
+# The screen keeps 1024 by 768 logical pixels at every scale, as a HiDPI laptop does.
+GALLERY_SCREEN := $(BUILD)/gallery-screen@$(GALLERY_SCALE).json
+
 gallery: build
-	QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=$(GALLERY_SCALE) $(BUILD)/bin/bancomisuratore-gallery $(GALLERY_DIR)
+	@awk -v s=$(GALLERY_SCALE) 'BEGIN { printf "{\"screens\":[{\"name\":\"gallery\",\"x\":0,\"y\":0,\"width\":%d,\"height\":%d,\"logicalDpi\":96,\"logicalBaseDpi\":96,\"dpr\":1}]}\n", 1024 * s, 768 * s }' > $(GALLERY_SCREEN)
+	QT_QPA_PLATFORM=offscreen:configfile=$(GALLERY_SCREEN) QT_SCALE_FACTOR=$(GALLERY_SCALE) \
+	  $(BUILD)/bin/bancomisuratore-gallery $(GALLERY_DIR)
 
 fuzz: deps
 	@tools/deps.sh $(FUZZ_PKGS)
