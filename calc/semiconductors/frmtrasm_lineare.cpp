@@ -10,7 +10,7 @@ namespace bm::semiconductors {
 namespace {
 
 // Input resistance and capacitance, from 65 W down to the row that starts at 2.5 W.
-constexpr std::array<PowerBand, 18> kBands = {{
+constexpr std::array<PowerBand, 17> kBands = {{
     {55.1, 65, 1.3, 1000, 600},  {47.6, 55, 1.4, 950, 550},   {42.6, 47.5, 1.5, 900, 500},
     {37.5, 42.5, 1.6, 850, 450}, {32.6, 37.5, 1.7, 800, 400}, {27.6, 32.5, 1.8, 750, 350},
     {22.6, 27.5, 2, 700, 320},   {17.6, 22.5, 2.5, 650, 300}, {12.6, 17.5, 3, 600, 280},
