@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
+#include <cstdio>
 
 #include "ui/printing.hpp"
 #include "ui_test_support.hpp"
@@ -25,6 +26,11 @@ bool Plain(const QImage& image, const QRect& area, QColor face) {
 TEST_F(AntennaPrintTest, TheEhPrintoutHoldsNoButton) {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
+    // BM_KEEP_PRINTS=1 leaves the PDFs behind (their folder is printed), for a person to look at the pages.
+    if (qEnvironmentVariableIsSet("BM_KEEP_PRINTS")) {
+        dir.setAutoRemove(false);
+        std::printf("the pages are in %s\n", dir.path().toLocal8Bit().constData());
+    }
     host.setPrintSettings({true, dir.path(), QDate(2026, 11, 21)});
     for (const char* form : {"frmEH", "frmEHstar"}) {
         SCOPED_TRACE(form);
