@@ -55,11 +55,13 @@ CalculatorForm frmAntAcc() {
     f.label("Label1", {180, 360, 3600, 255}, "Lunghezza del radiatore in mt.")
         .in("frainserimento")
         .tip("lunghezza dell'antenna che si prevede di adottare");
-    f.textBox("txtlunghezzarad", {3900, 300, 1335, 330}).in("frainserimento");
+    f.textBox("txtlunghezzarad", {3900, 300, 1335, 330})
+        .in("frainserimento")
+        .tip("lunghezza dell'antenna che si prevede di adottare");
     f.label("Label2", {180, 780, 3600, 255}, "Diametro medio radiatore in cm.").in("frainserimento");
     f.textBox("txtdiametrorad", {3900, 720, 1335, 330}).in("frainserimento");
     f.label("Label3", {180, 1200, 3600, 255}, "Frequenza in MHz.").in("frainserimento").tip("frequenza di utilizzo dell'antenna");
-    f.textBox("txtfrequenza", {3900, 1140, 1335, 330}).in("frainserimento");
+    f.textBox("txtfrequenza", {3900, 1140, 1335, 330}).in("frainserimento").tip("frequenza di utilizzo dell'antenna");
     f.label("Label4", {180, 1620, 3600, 255}, "Lunghezza bobina in cm.")
         .in("frainserimento")
         .tip("è preferibile sia più lunga del diametro");

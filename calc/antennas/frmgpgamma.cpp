@@ -74,7 +74,7 @@ CalculatorForm frmgpgamma() {
     s.ground(x, 5100);
     f.label("Label6", {5160, 900, 1320, 255}, "radiatore").aligned(Align::Right).tip("aggiustare la lunghezza in fase di taratura");
     f.label("Label9", {x + 540, 2160, 1200, 255}, "ponticello").tip("individuare spirimentalmente la posizione");
-    f.label("Label5", {x + 540, 2880, 1200, 255}, "gamma");
+    f.label("Label5", {x + 540, 2880, 1200, 255}, "gamma").tip("aggiustare la lunghezza in fase di taratura");
     f.label("Label4", {x + 840, 3780, 1080, 450}, "cond.  variabile").tip("può essere realizzata in cavo coassiale");
     f.label("Label3", {4920, 4320, 900, 255}, "radiali").tip("occorrono non meno di 4 radiali");
     f.label("Label1", {x + 600, 5160, 720, 255}, "coax ").tip("cavo coass. 50 Ohm");
