@@ -168,6 +168,13 @@ int main(int argc, char** argv) {
         QTimer::singleShot(2000, &wait, &QEventLoop::quit);
         wait.exec();
     }
+    // No one picks a menu item within a moment of the window appearing: what
+    // the start-up leaves to do settles first.
+    {
+        QEventLoop settle;
+        QTimer::singleShot(300, &settle, &QEventLoop::quit);
+        settle.exec();
+    }
 
     struct Row {
         const bm::MenuItem* item;
