@@ -9,6 +9,7 @@
 #
 #   tools/bench-startup.sh BUILD_DIR      (BENCH_RUNS=N to change the 21 runs;
 #                                          exit 1 when the budget is missed)
+# BENCH_LOAD_NOTE="..." is written beside the load average.
 set -euo pipefail
 
 build=${1:-build}
@@ -80,6 +81,8 @@ mib() { awk -v k="$1" 'BEGIN { printf "%.1f MiB", k / 1024 }'; }
 extra() { awk -v a="$1" -v b="$2" -v s="$3" 'BEGIN { printf "%+.1f%s", (a - b) / s, (s == 1000 ? " ms" : " MiB") }'; }
 
 load=$(cut -d' ' -f1-3 /proc/loadavg)
+# BENCH_LOAD_NOTE says what else the machine was doing, for the record.
+note=${BENCH_LOAD_NOTE:+ (${BENCH_LOAD_NOTE})}
 cpu=$(sed -n 's/^model name[[:space:]]*: //p' /proc/cpuinfo | head -1)
 qt=$(dpkg-query -W -f='${Version}' libqt6widgets6 2>/dev/null || echo "?")
 section=$(cat <<MD
@@ -88,8 +91,8 @@ section=$(cat <<MD
 the screen, and peak resident memory (\`/usr/bin/time -v\`): median (and
 fastest) of $runs runs each, the two programs taking turns after one warm-up
 run each, under Xvfb (xcb), Release build. Measured $(date +%Y-%m-%d) on
-$(nproc) cores of ${cpu:-an unknown CPU}, load average $load at the end (the machine
-was shared with other builds), Qt $qt.
+$(nproc) cores of ${cpu:-an unknown CPU}, load average $load at the end${note},
+Qt $qt.
 
 The yardstick is \`bench-startup-minimal\`: one QMainWindow of the main
 window's size carrying the same menu bar, built from the same menu tree by the
