@@ -17,7 +17,8 @@
 //
 // `--start K` begins the pass at the K-th item (and wraps round), so that over
 // several runs the first window of a session, which pays for what Qt sets up
-// on first use, is a different one each time.
+// on first use, is a different one each time. `--only ITEM` (repeatable)
+// keeps those menu items alone, to look at one window closely.
 //
 // tools/bench-windows.sh runs it several times under Xvfb and takes medians.
 #include <QAction>
@@ -181,9 +182,13 @@ int main(int argc, char** argv) {
         std::vector<double> us;
         double cpuUs = 0;
     };
+    std::vector<std::string> only;
+    for (int i = 1; i + 1 < argc; ++i)
+        if (std::string(argv[i]) == "--only") only.emplace_back(argv[i + 1]);
     std::vector<Row> rows;
     for (const bm::MenuItem& item : bm::FormRegistry::items()) {
         if (item.isSubmenu()) continue;
+        if (!only.empty() && std::find(only.begin(), only.end(), item.name) == only.end()) continue;
         if (!program.isBuilt(item.form)) {
             std::printf("skipped %s %s\n", item.name.c_str(), item.form.c_str());
             continue;
