@@ -36,8 +36,10 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -90,6 +92,8 @@ public:
     qint64 cpuNs() const { return cpu_; }
     // Runs once the frame is up (inside the window's own loop when it is modal).
     std::function<void()> onShown;
+    // Started once; every moment is read from it.
+    QElapsedTimer clock;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -97,7 +101,7 @@ protected:
             if (FormWindow* w = WindowOf(watched); w != nullptr && w->formName() == form_) {
                 armed_ = true;
                 QTimer::singleShot(0, this, [this] {
-                    shown_ = clock_.nsecsElapsed();
+                    shown_ = clock.nsecsElapsed();
                     cpu_ = ProcessCpuNs();
                     if (onShown) onShown();
                 });
@@ -105,9 +109,6 @@ protected:
         }
         return QObject::eventFilter(watched, event);
     }
-
-public:
-    QElapsedTimer clock_;
 
 private:
     std::string form_;
@@ -161,7 +162,7 @@ int main(int argc, char** argv) {
     });
 
     FirstPaint probe;
-    probe.clock_.start();
+    probe.clock.start();
     app.installEventFilter(&probe);
 
     probe.expect(std::string(bm::kMainForm));
@@ -229,7 +230,7 @@ int main(int argc, char** argv) {
         });
         guard.start(kGuardMs);
         const qint64 cpuStart = ProcessCpuNs();
-        const qint64 start = probe.clock_.nsecsElapsed();
+        const qint64 start = probe.clock.nsecsElapsed();
         action->trigger();
         if (!probe.shownNs()) {
             QEventLoop wait;
