@@ -7,13 +7,13 @@
 # same run. Writes the figures into the "Start-up" section of
 # docs/performance.md.
 #
-#   tools/bench-startup.sh BUILD_DIR      (BENCH_RUNS=N to change the 21 runs;
+#   tools/bench-startup.sh BUILD_DIR      (BENCH_RUNS=N to change the 41 runs;
 #                                          exit 1 when the budget is missed)
 # BENCH_LOAD_NOTE="..." is written beside the load average.
 set -euo pipefail
 
 build=${1:-build}
-runs=${BENCH_RUNS:-21}
+runs=${BENCH_RUNS:-41}
 here=$(cd "$(dirname "$0")/.." && pwd)
 app="$build/bin/bancomisuratore"
 minimal="$build/bin/bench-startup-minimal"
