@@ -1,6 +1,7 @@
 #pragma once
 // All the program's forms: the shell's own windows and every calculator in the
 // catalogue, built on first use.
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -16,7 +17,12 @@ class Workbook : public FormLibrary {
 public:
     Workbook();
     const CalculatorForm* find(std::string_view name) const override;
+    // Knowing which forms exist takes their names only.
     bool has(std::string_view name) const override { return factories_.contains(name); }
+    // Definitions built so far: a form's is built the first time it is opened
+    // or placed, and then kept.
+    std::size_t definitionsBuilt() const { return built_.size(); }
+    bool isDefinitionBuilt(std::string_view name) const { return built_.contains(name); }
 
 private:
     std::map<std::string, CalculatorForm (*)(), std::less<>> factories_;

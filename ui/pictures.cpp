@@ -73,9 +73,12 @@ void PaintMain(QPainter& p, QSizeF size) {
     p.setBrush(QColor(40, 40, 40));
     p.drawRect(QRectF(466, 116, 8, 8));
     p.setBrush(Qt::NoBrush);
+    // The waves fade into the sky: their colours are already mixed with the sky
+    // behind them, since drawing with see-through pens is slow the first time.
+    const QColor waves[] = {QColor(200, 114, 113), QColor(200, 145, 151), QColor(200, 177, 188)};
     for (int i = 1; i <= 3; ++i) {
         const double r = 16.0 * i;
-        p.setPen(QPen(QColor(200, 60, 50, 220 - 50 * i), 2));
+        p.setPen(QPen(waves[i - 1], 2));
         p.drawArc(QRectF(top.x() - 60 - r, top.y() - 40 - r, 2 * r, 2 * r), 100 * 16, 80 * 16);
         p.drawArc(QRectF(top.x() + 60 - r, top.y() - 40 - r, 2 * r, 2 * r), 0 * 16, 80 * 16);
     }

@@ -1,7 +1,6 @@
 #include "ui/style.hpp"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
@@ -10,24 +9,22 @@ namespace bm::ui {
 
 namespace {
 
-// The window sizes were laid out for a narrow 8-point sans serif: the first of
-// these that the system has keeps the captions inside their boxes.
-QString WorkbookFamily() {
-    static const QString family = [] {
-        const QStringList installed = QFontDatabase::families();
-        for (const char* name : {"Microsoft Sans Serif", "MS Sans Serif", "Tahoma", "Arial", "Liberation Sans",
-                                 "Helvetica", "DejaVu Sans Condensed", "DejaVu Sans"}) {
-            if (installed.contains(QString::fromLatin1(name))) return QString::fromLatin1(name);
-        }
-        return QApplication::font().family();
-    }();
-    return family;
+// The window sizes were laid out for a narrow 8-point sans serif: the font
+// takes the first of these that the system has. The font matcher goes down
+// the list itself, so nothing has to enumerate every installed family first.
+const QStringList& WorkbookFamilies() {
+    static const QStringList families = {
+        QStringLiteral("Microsoft Sans Serif"), QStringLiteral("MS Sans Serif"), QStringLiteral("Tahoma"),
+        QStringLiteral("Arial"),                QStringLiteral("Liberation Sans"), QStringLiteral("Helvetica"),
+        QStringLiteral("DejaVu Sans Condensed"), QStringLiteral("DejaVu Sans")};
+    return families;
 }
 
 }  // namespace
 
 QFont ControlFont(int points, bool bold) {
-    QFont f(WorkbookFamily());
+    QFont f;
+    f.setFamilies(WorkbookFamilies());
     f.setPointSize(points > 0 ? points : 8);
     f.setBold(bold);
     return f;

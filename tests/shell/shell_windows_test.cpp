@@ -7,6 +7,7 @@
 
 #include "core/number_locale.hpp"
 #include "forms/headless_host.hpp"
+#include "shell/form_registry.hpp"
 #include "shell/workbook.hpp"
 
 namespace bm {
@@ -107,6 +108,24 @@ TEST(AboutWindow, TakesItsWidthAndCentresAcrossOnly) {
         EXPECT_EQ(open->rect.width, 7320);
         EXPECT_EQ(open->rect.top, definedTop);
     }
+}
+
+// Starting knows the calculators by name only; each definition is built when
+// its form first opens, and kept.
+TEST(Workbook, BuildsADefinitionOnFirstOpeningOnly) {
+    Session s;
+    ASSERT_EQ(StartProgram(s.program), Program::Status::Running);
+    std::size_t known = 0;
+    for (const MenuItem& m : FormRegistry::items()) known += !m.isSubmenu() && s.program.isBuilt(m.form);
+    EXPECT_GT(known, 1U);
+    EXPECT_EQ(s.book.definitionsBuilt(), 1U);
+
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_EQ(ChooseMenuItem(s.program, "mnuohm"), Program::Status::Running);
+        ASSERT_EQ(s.program.close("frmleggediohm"), Program::Status::Running);
+    }
+    EXPECT_EQ(s.book.definitionsBuilt(), 2U);
+    EXPECT_TRUE(s.book.isDefinitionBuilt("frmleggediohm"));
 }
 
 // The layout holds: every control lies inside the client area, and every text

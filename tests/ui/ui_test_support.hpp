@@ -24,6 +24,7 @@ class TestLibrary : public FormLibrary {
 public:
     TestLibrary();
     const CalculatorForm* find(std::string_view name) const override;
+    bool has(std::string_view name) const override { return forms_.contains(name) || workbook_.has(name); }
     const Workbook& workbook() const { return workbook_; }
 
 private:
