@@ -2,7 +2,7 @@
 // front end, for a given time. Ends with one line per net and a non-zero
 // status when anything failed.
 //
-//   soak [--seconds S] [--seed N] [--net model|qt|both] [--out DIR]
+//   soak [--seconds S] [--seed N] [--net model|qt|both] [--out DIR] [--keep-logs]
 //   soak --seed N --episode K [--out DIR]     one model episode again, as a scenario
 #include <unistd.h>
 
@@ -108,7 +108,7 @@ Tally RunModelNet(std::uint64_t seed, double seconds, const std::string& out) {
 }
 
 #ifdef BM_SOAK_QT
-Tally RunQtNet(std::uint64_t seed, double seconds, const std::string& out) {
+Tally RunQtNet(std::uint64_t seed, double seconds, const std::string& out, bool keepLogs) {
     Tally t;
     const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(static_cast<long>(seconds * 1000));
     for (long run = 0; Clock::now() < deadline; ++run) {
@@ -156,7 +156,7 @@ Tally RunQtNet(std::uint64_t seed, double seconds, const std::string& out) {
                              log + "]");
         }
         std::filesystem::remove_all(log + ".pdf");
-        if (runFailures == 0) {
+        if (runFailures == 0 && !keepLogs) {
             std::remove(log.c_str());
             std::remove(errors.c_str());
         }
@@ -178,6 +178,7 @@ int main(int argc, char** argv) {
     std::string net = "both";
     std::string out = "soak-out";
     long episode = -1;
+    bool keepLogs = false;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         const char* v = i + 1 < argc ? argv[i + 1] : nullptr;
@@ -186,8 +187,9 @@ int main(int argc, char** argv) {
         else if (a == "--net" && v) net = argv[++i];
         else if (a == "--out" && v) out = argv[++i];
         else if (a == "--episode" && v) episode = std::atol(argv[++i]);
+        else if (a == "--keep-logs") keepLogs = true;
         else {
-            std::fprintf(stderr, "usage: soak [--seconds S] [--seed N] [--net model|qt|both] [--out DIR] [--episode K]\n");
+            std::fprintf(stderr, "usage: soak [--seconds S] [--seed N] [--net model|qt|both] [--out DIR] [--episode K] [--keep-logs]\n");
             return 2;
         }
     }
@@ -218,7 +220,7 @@ int main(int argc, char** argv) {
     }
     if (both || net == "qt") {
 #ifdef BM_SOAK_QT
-        qt = RunQtNet(seed, share, out);
+        qt = RunQtNet(seed, share, out, keepLogs);
 #else
         Report("qt", "this build has no Qt front end");
         qt.failures = 1;
