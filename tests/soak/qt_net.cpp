@@ -24,6 +24,7 @@
 #include <set>
 
 #include "checks.hpp"
+#include "qt_checks.hpp"
 #include "child.hpp"
 #include "inputs.hpp"
 #include "model_net.hpp"
@@ -126,52 +127,8 @@ private:
                 failure(name + ": shown in the model, with no window");
                 continue;
             }
-            if (!w->isVisible()) failure(name + ": shown in the model, its window hidden");
-            if (w->windowTitle() != Q(st->title))
-                failure(name + ": title \"" + w->windowTitle().toStdString() + "\", the model has \"" + st->title + "\"");
-            const QPoint at(ui::Px(st->window.left), ui::Px(st->window.top));
-            if (w->pos() != at)
-                failure(name + ": window at " + std::to_string(w->x()) + "," + std::to_string(w->y()) +
-                        " px, the model has " + std::to_string(at.x()) + "," + std::to_string(at.y()));
-            if (w->size() != ui::ClientSize(st->window))
-                failure(name + ": window of " + std::to_string(w->width()) + "x" + std::to_string(w->height()) +
-                        " px, the model's size differs");
-            for (const ControlDef& d : st->def->controls) checkControl(*w, *st, d);
+            for (const std::string& p : WindowProblems(*w, *st)) failure(p);
         }
-    }
-
-    void checkControl(const FormWindow& w, const FormState& st, const ControlDef& d) {
-        auto c = st.controls.find(d.key);
-        if (c == st.controls.end()) return;  // the record check of the model net covers this
-        const ControlState& s = c->second;
-        QWidget* widget = w.control(d.key);
-        const std::string name = st.name() + "." + d.key.str();
-        if (widget == nullptr) {
-            if (ui::RendererFor(d.kind) != nullptr) failure(name + ": no widget");
-            return;
-        }
-        const QString want = Q(s.text);
-        QString shown;
-        bool hasText = true;
-        if (auto* e = qobject_cast<QLineEdit*>(widget)) shown = e->text();
-        else if (auto* p = qobject_cast<QPlainTextEdit*>(widget)) shown = p->toPlainText();
-        else if (auto* cb = qobject_cast<QComboBox*>(widget)) shown = cb->lineEdit()->text();
-        else if (auto* l = qobject_cast<QLabel*>(widget)) shown = l->text();
-        else if (auto* g = qobject_cast<QGroupBox*>(widget)) shown = g->title();
-        else if (auto* b = qobject_cast<QAbstractButton*>(widget)) {
-            shown = b->text();
-            if ((d.kind == ControlKind::Option || d.kind == ControlKind::CheckBox) && b->isChecked() != s.chosen)
-                failure(name + (s.chosen ? ": chosen in the model, not on the screen" : ": chosen on the screen only"));
-        } else hasText = false;
-        if (hasText && shown != want)
-            failure(name + ": shows \"" + shown.left(60).toStdString() + "\", the model has \"" + s.text.substr(0, 60) + "\"");
-        if (widget->isHidden() == s.visible)
-            failure(name + (s.visible ? ": hidden, the model has it visible" : ": visible, the model has it hidden"));
-        if (widget->testAttribute(Qt::WA_ForceDisabled) == s.enabled)
-            failure(name + (s.enabled ? ": disabled, the model has it enabled" : ": enabled, the model has it disabled"));
-        if (widget->geometry() != ui::ToPixels(s.rect))
-            failure(name + ": at " + std::to_string(widget->x()) + "," + std::to_string(widget->y()) +
-                    ", the model places it elsewhere");
     }
 
     void answer(QMessageBox& box) {

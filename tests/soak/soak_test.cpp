@@ -120,7 +120,7 @@ TEST(SoakEpisodes, AnEpisodeIsAScenarioThatReplays) {
     const std::filesystem::path dir = std::filesystem::temp_directory_path() / ("soak-test-" + std::to_string(::getpid()));
     std::filesystem::create_directories(dir);
     int ends = 0;
-    for (long index = 0; index < 12; ++index) {
+    for (long index = 0; index < 6; ++index) {
         EpisodeOptions options;
         options.seed = 17;
         options.index = index;
