@@ -67,6 +67,7 @@ public:
     // loop of a box or a modal window this turn opens (a timer does not fire
     // again while its own slot runs).
     void turn() {
+        lastTurn_ = Clock::now();
         if (!finished_) QTimer::singleShot(1, [this] { turn(); });
         struct Depth {
             int& d;
@@ -91,6 +92,14 @@ public:
     }
 
     long events() const { return events_; }
+
+    // The chain of turns has been seen to break now and then in the outer
+    // loop, with nothing of the program's running; the user carries on.
+    void resumeIfStalled() {
+        if (finished_ || depth_ > 0 || Clock::now() - lastTurn_ < std::chrono::milliseconds(250)) return;
+        std::fprintf(log_, "(the driver resumed after a pause)\n");
+        turn();
+    }
 
 private:
     // The log line and the report line of an action, before it runs.
@@ -378,6 +387,7 @@ private:
     Clock::time_point deadline_;
     std::vector<std::string> forms_;
     long events_ = 0;
+    Clock::time_point lastTurn_ = Clock::now();
     int depth_ = 0;
     bool windDown_ = false;
     bool finished_ = false;
@@ -433,7 +443,11 @@ int RunQtChild(std::uint64_t seed, long run, long budgetMs, const std::string& l
 
         Driver driver(workbook, host, program, choice(), budgetMs, fd, log);
         QTimer::singleShot(0, [&driver] { driver.turn(); });
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&driver] { driver.resumeIfStalled(); });
+        watch.start(250);
         status = QApplication::exec();
+        watch.stop();
         std::fprintf(log, "DONE after %ld events\n", driver.events());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
