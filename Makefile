@@ -54,8 +54,17 @@ bench: build
 	$(BUILD)/bin/core-bench
 	@if [ -x tools/bench-startup.sh ]; then tools/bench-startup.sh $(BUILD); fi
 
+# GALLERY_SCALE=1.25, 1.5, 2: the windows as a HiDPI screen shows them, in build/gallery@SCALE.
+GALLERY_SCALE ?= 1
+GALLERY_DIR := $(BUILD)/gallery$(if $(filter 1,$(GALLERY_SCALE)),,@$(GALLERY_SCALE))
+
+# The screen keeps 1024 by 768 logical pixels at every scale, as a HiDPI laptop does.
+GALLERY_SCREEN := $(BUILD)/gallery-screen@$(GALLERY_SCALE).json
+
 gallery: build
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bin/bancomisuratore-gallery $(BUILD)/gallery
+	@awk -v s=$(GALLERY_SCALE) 'BEGIN { printf "{\"screens\":[{\"name\":\"gallery\",\"x\":0,\"y\":0,\"width\":%d,\"height\":%d,\"logicalDpi\":96,\"logicalBaseDpi\":96,\"dpr\":1}]}\n", 1024 * s, 768 * s }' > $(GALLERY_SCREEN)
+	QT_QPA_PLATFORM=offscreen:configfile=$(GALLERY_SCREEN) QT_SCALE_FACTOR=$(GALLERY_SCALE) \
+	  $(BUILD)/bin/bancomisuratore-gallery $(GALLERY_DIR)
 
 fuzz: deps
 	@tools/deps.sh $(FUZZ_PKGS)

@@ -143,4 +143,31 @@ void Schematic::box(int left, int top, int width, int height) {
     shape({left, top, width, height}, ShapeKind::Rectangle);
 }
 
+void Schematic::transistor(int x, int y) {
+    shape({x - 330, y - 460, 920, 920}, ShapeKind::Circle);
+    line(x, y - 240, x, y + 240).width(2);
+    path({{x, y - 100}, {x + 300, y - 300}, {x + 300, y - 600}});
+    path({{x, y + 100}, {x + 300, y + 300}, {x + 300, y + 600}});
+    // The emitter's arrow points out of the transistor.
+    line(x + 300, y + 300, x + 137, y + 275);
+    line(x + 300, y + 300, x + 213, y + 159);
+}
+
+void Schematic::diode(int x1, int y1, int x2, int y2) {
+    constexpr int body = 240;
+    constexpr int half = 120;
+    const int s = leads(x1, y1, x2, y2, body);
+    const bool across = y1 == y2;
+    const bool forward = across ? x2 > x1 : y2 > y1;
+    const int base = forward ? s : s + body;
+    const int apex = forward ? s + body : s;
+    if (across) {
+        path({{base, y1 - half}, {apex, y1}, {base, y1 + half}, {base, y1 - half}});
+        line(apex, y1 - half, apex, y1 + half).width(2);
+    } else {
+        path({{x1 - half, base}, {x1, apex}, {x1 + half, base}, {x1 - half, base}});
+        line(x1 - half, apex, x1 + half, apex).width(2);
+    }
+}
+
 }  // namespace bm

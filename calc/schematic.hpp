@@ -54,6 +54,13 @@ public:
     // A box for a named block (a lamp, a load, "Input"), outline only.
     void box(int left, int top, int width, int height);
 
+    // An NPN transistor in its circle, base lead ending at (x, y) from the left:
+    // the collector ends at (x + 300, y - 600), the emitter, with its arrow, at
+    // (x + 300, y + 600).
+    void transistor(int x, int y);
+    // A diode from anode to cathode on one line: a triangle pointing at a bar.
+    void diode(int x1, int y1, int x2, int y2);
+
 protected:
     // The raw elements, for drawing vocabularies built on this one.
     ControlDef& line(int x1, int y1, int x2, int y2);

@@ -148,6 +148,12 @@ std::string NumberText(const FormValue& value, const NumberLocale& locale) {
 }
 
 std::string PictureFormat(const FormValue& value, std::string_view picture, const NumberLocale& locale) {
+    // Literal characters behind the last digit position ("####,### ") are
+    // printed as they stand, after the number.
+    const std::size_t lastPlace = picture.find_last_of("#0,.");
+    const std::string_view literal =
+        lastPlace == std::string_view::npos ? std::string_view{} : picture.substr(lastPlace + 1);
+    picture.remove_suffix(literal.size());
     const std::size_t point = picture.find('.');
     const std::string_view intPart = picture.substr(0, point);
     const std::string_view fracPart =
@@ -176,8 +182,8 @@ std::string PictureFormat(const FormValue& value, std::string_view picture, cons
         while (frac.size() > minFrac && frac.back() == '0') frac.pop_back();
         body += locale.decimal + frac;
     }
-    if (body.empty()) return body;
-    return d.negative ? "-" + body : body;
+    if (body.empty()) return std::string(literal);
+    return (d.negative ? "-" + body : body) + std::string(literal);
 }
 
 std::string FixedDecimals(const FormValue& value, int n, const NumberLocale& locale) {

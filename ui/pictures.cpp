@@ -359,6 +359,48 @@ void PaintLowPassT(QPainter& p, QSizeF size) {
     PaintSection(p, size, {179, 152}, {1, 9, 177, 142}, false, Component::Coil, Component::Capacitor);
 }
 
+// A magnetic loop on its mast against the sky: a ring of copper tube, the
+// tuning capacitor in its box at the top, and the small coupling loop at the
+// bottom with the coax running down the mast.
+void PaintLoop(QPainter& p, QSizeF size) {
+    const QSizeF ref(120, 120);
+    ScaleTo(p, size, ref);
+    p.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient sky(0, 0, 0, 120);
+    sky.setColorAt(0, QColor(176, 206, 236));
+    sky.setColorAt(1, QColor(238, 244, 248));
+    p.fillRect(QRectF(0, 0, 120, 120), sky);
+    p.fillRect(QRectF(0, 108, 120, 12), QColor(150, 176, 120));
+
+    // The mast, from the ground to the foot of the ring.
+    p.setPen(QPen(QColor(90, 90, 96), 3));
+    p.drawLine(QPointF(60, 108), QPointF(60, 96));
+    p.setPen(QPen(QColor(120, 120, 128), 4));
+    p.drawLine(QPointF(60, 118), QPointF(60, 98));
+
+    // The ring: a copper tube with a light streak along it.
+    const QRectF ring(22, 14, 76, 80);
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(QColor(168, 92, 40), 6));
+    p.drawArc(ring, 100 * 16, 340 * 16);
+    p.setPen(QPen(QColor(236, 170, 110), 1.5));
+    p.drawArc(ring.adjusted(-1.5, -1.5, 1.5, 1.5), 110 * 16, 140 * 16);
+
+    // The tuning capacitor across the gap at the top.
+    p.setPen(QPen(QColor(50, 50, 60), 1));
+    p.setBrush(QColor(226, 226, 218));
+    p.drawRect(QRectF(49, 6, 22, 15));
+    p.setPen(QPen(QColor(50, 50, 60), 1.5));
+    for (int i = 0; i < 4; ++i) p.drawLine(QPointF(53 + i * 4.5, 9), QPointF(53 + i * 4.5, 18));
+
+    // The coupling loop, a fifth of the ring, and the coax down the mast.
+    p.setPen(QPen(QColor(60, 60, 150), 2));
+    p.setBrush(Qt::NoBrush);
+    p.drawEllipse(QRectF(52, 78, 16, 16));
+    p.setPen(QPen(QColor(30, 30, 30), 2));
+    p.drawLine(QPointF(62, 94), QPointF(62, 118));
+}
+
 // Neither a picture nor a fault: a quiet panel that keeps the place.
 void PaintPlaceholder(QPainter& p, QSizeF size) {
     p.setRenderHint(QPainter::Antialiasing);
@@ -387,6 +429,7 @@ const std::map<std::string_view, PictureEntry>& Pictures() {
         {"passaalto-T", {&PaintHighPassT, "filtro passa alto a T: C in serie, L verso massa, C in serie"}},
         {"passabasso-pigreco", {&PaintLowPassPi, "filtro passa basso a pi greco: C verso massa, L in serie, C verso massa"}},
         {"passabasso-T", {&PaintLowPassT, "filtro passa basso a T: L in serie, C verso massa, L in serie"}},
+        {"loop", {&PaintLoop, "antenna a loop magnetico con condensatore di sintonia e spira d'accoppiamento"}},
     };
     return pictures;
 }

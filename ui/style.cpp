@@ -33,13 +33,36 @@ QFont ControlFont(int points, bool bold) {
     return f;
 }
 
+QPalette WorkbookPalette() {
+    // Every role of every group is set, so nothing of a dark desktop theme shows
+    // through: black text on white boxes and on the grey face, as the windows were drawn.
+    const QColor face = ToQColor(colors::ButtonFace);
+    const QColor black(0, 0, 0);
+    const QColor white(255, 255, 255);
+    const QColor grey(128, 128, 128);
+    QPalette p(black, face, white, QColor(64, 64, 64), QColor(160, 160, 160), black, white, white, face);
+    for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        p.setColor(g, QPalette::AlternateBase, QColor(236, 233, 216));
+        p.setColor(g, QPalette::ToolTipBase, QColor(255, 255, 225));
+        p.setColor(g, QPalette::ToolTipText, black);
+        p.setColor(g, QPalette::Highlight, QColor(10, 36, 106));
+        p.setColor(g, QPalette::HighlightedText, white);
+        p.setColor(g, QPalette::Link, QColor(0, 0, 255));
+        p.setColor(g, QPalette::LinkVisited, QColor(128, 0, 128));
+        p.setColor(g, QPalette::PlaceholderText, grey);
+        p.setColor(g, QPalette::BrightText, white);
+        p.setColor(g, QPalette::Light, white);
+        p.setColor(g, QPalette::Midlight, QColor(227, 227, 227));
+    }
+    for (QPalette::ColorRole r : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, r, grey);
+    p.setColor(QPalette::Disabled, QPalette::Base, face);
+    return p;
+}
+
 void ApplyWorkbookStyle(QApplication& app) {
     if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) QApplication::setStyle(fusion);
-    QPalette p = QApplication::style()->standardPalette();
-    const QColor face = ToQColor(colors::ButtonFace);
-    p.setColor(QPalette::Window, face);
-    p.setColor(QPalette::Button, face);
-    QApplication::setPalette(p);
+    QApplication::setPalette(WorkbookPalette());
     app.setFont(ControlFont(8, false));
 }
 

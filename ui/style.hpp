@@ -4,6 +4,7 @@
 // sizes were drawn for.
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 
 #include "forms/form_definition.hpp"
 
@@ -12,6 +13,9 @@ class QApplication;
 namespace bm::ui {
 
 void ApplyWorkbookStyle(QApplication& app);
+
+// The workbook's own light palette, whatever the desktop's theme.
+QPalette WorkbookPalette();
 
 // A control's font: the family of the workbook at the definition's size.
 QFont ControlFont(int points, bool bold);

@@ -63,9 +63,9 @@ void AntennaDrawing::radials(int x, int y, int reach, int drop, int count) {
     radiator(x, y, x - reach, y + drop);
     radiator(x, y, x + reach, y + drop);
     if (count >= 4) {
-        // The two behind, foreshortened.
-        radiator(x, y, x - reach / 2, y + drop / 2);
-        radiator(x, y, x + reach / 2, y + drop / 2);
+        // The two behind, foreshortened and flatter, so they part from the front pair.
+        radiator(x, y, x - reach * 3 / 5, y + drop / 5);
+        radiator(x, y, x + reach * 3 / 5, y + drop / 5);
     }
 }
 
@@ -153,6 +153,13 @@ void AntennaDrawing::helix(int x1, int x2, int y, int turns, int diameter) {
         line(a, y - half, a + pitch / 2, y + half).width(2);
         line(a + pitch / 2, y + half, a + pitch, y - half);
     }
+}
+
+void AntennaDrawing::linearTrap(int x1, int x2, int y, int gap) {
+    radiator(x1, y - gap, x2, y - gap);
+    radiator(x1, y, x1, y - gap);
+    capacitor(x2, y - gap, x2, y);
+    insulator((x1 + x2) / 2, y);
 }
 
 void AntennaDrawing::mast(int x, int top, int bottom) { box(x - 45, top, 90, bottom - top); }

@@ -63,6 +63,10 @@ public:
     // A helix along a horizontal axis from x1 to x2 at height y: `turns` loops
     // of the given diameter.
     void helix(int x1, int x2, int y, int turns, int diameter);
+    // A trap made of a linear element beside a horizontal radiator: a rod `gap`
+    // above it from x1 to x2, strapped to the radiator at x1 and joined to it
+    // through a capacitor at x2; the radiator is broken by an insulator between.
+    void linearTrap(int x1, int x2, int y, int gap);
     // A mast or support, drawn as a narrow open box from top to bottom.
     void mast(int x, int top, int bottom);
 };

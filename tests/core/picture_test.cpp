@@ -80,6 +80,14 @@ TEST(PictureFormat, KeepsThePointAndTheSign) {
     EXPECT_EQ(PictureFormat(0.5, "####,###", en), "1");
 }
 
+TEST(PictureFormat, KeepsATrailingLiteralBlank) {
+    EXPECT_EQ(PictureFormat(94357.7, "####,### ", en), "94,358 ");
+    EXPECT_EQ(PictureFormat(94357.7, "####,### ", it), "94.358 ");
+    EXPECT_EQ(PictureFormat(-12.0, "####,### ", en), "-12 ");
+    // a zero prints no digit, the blank stays
+    EXPECT_EQ(PictureFormat(0.2, "####,### ", en), " ");
+}
+
 TEST(PictureFormat, NeverCutsTheIntegerPart) {
     EXPECT_EQ(PictureFormat(123456789.0, "#0.#", en), "123456789.");
     EXPECT_EQ(PictureFormat(1e20, "#,##0.##", en), "100,000,000,000,000,000,000.");

@@ -124,13 +124,14 @@ TEST(FormRegistry, Lookups) {
         EXPECT_EQ(FormRegistry::firstFor(noItem), nullptr) << noItem;
 }
 
-// Every item whose form is built opens it as the registry says, starting the
-// main window first.
-TEST(FormRegistry, EveryBuiltItemOpensItsForm) {
+// No item of the menu is left disabled: every one opens its form as the
+// registry says, starting the main window first.
+TEST(FormRegistry, EveryItemOpensItsForm) {
     const Workbook book;
     for (const MenuItem& m : FormRegistry::items()) {
-        if (m.isSubmenu() || book.find(m.form) == nullptr) continue;
+        if (m.isSubmenu()) continue;
         SCOPED_TRACE(m.name);
+        ASSERT_NE(book.find(m.form), nullptr) << m.form << " is not built: its item would be disabled";
         HeadlessHost host;
         Program program(book, host, NumberLocale::english());
         ASSERT_EQ(ChooseMenuItem(program, m.name), Program::Status::Running);

@@ -1,5 +1,6 @@
 // What the desktop adds around the windows: copying the results, and telling
 // the user where a print went.
+#include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest/QTest>
 
+#include "ui/style.hpp"
 #include "ui_test_support.hpp"
 
 namespace bm::ui::test {
@@ -70,6 +72,22 @@ TEST_F(DesktopTest, APrintToPdfTellsTheUserWhereTheFileWent) {
     const QPoint inNote = w->note()->geometry().center();
     const QPoint farAway(inNote.x(), w->note()->geometry().top() - 4);
     EXPECT_EQ(image.pixelColor(inNote), image.pixelColor(farAway));
+}
+
+TEST_F(DesktopTest, ADarkDesktopThemeLeavesTheWindowsLight) {
+    QPalette dark(QColor(230, 230, 230), QColor(40, 40, 40));
+    dark.setColor(QPalette::Base, QColor(25, 25, 25));
+    dark.setColor(QPalette::Text, QColor(240, 240, 240));
+    QApplication::setPalette(dark);
+    ApplyWorkbookStyle(*qApp);
+
+    program.open("frmleggediohm", OpenModeless);
+    const QPalette box = widget("frmleggediohm", "txtinput1")->palette();
+    const QPalette label = widget("frmleggediohm", "Label4")->palette();
+    for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive}) {
+        EXPECT_GT(qGray(box.color(g, QPalette::Base).rgb()) - qGray(box.color(g, QPalette::Text).rgb()), 150);
+        EXPECT_GT(qGray(label.color(g, QPalette::Window).rgb()) - qGray(label.color(g, QPalette::WindowText).rgb()), 150);
+    }
 }
 
 }  // namespace

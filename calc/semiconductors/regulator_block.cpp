@@ -1,0 +1,16 @@
+#include "calc/semiconductors/regulator_block.hpp"
+
+namespace bm::semiconductors {
+
+RegulatorPins RegulatorBlock(CalculatorForm& f, Schematic& s, int left, int y, std::string_view nameLabel,
+                             std::string name, std::string common) {
+    constexpr int width = 1500;
+    s.box(left, y - 480, width, 1080);
+    f.label(nameLabel, {left + 60, y - 420, width - 120, 255}, std::move(name)).aligned(Align::Center).font(8, true);
+    f.label("lblpinE", {left + 60, y - 120, 240, 255}, "E");
+    f.label("lblpinU", {left + width - 300, y - 120, 240, 255}, "U").aligned(Align::Right);
+    f.label("lblpin" + common, {left + width / 2 - 120, y + 300, 240, 255}, common).aligned(Align::Center);
+    return {left, left + width, left + width / 2, y + 600};
+}
+
+}  // namespace bm::semiconductors

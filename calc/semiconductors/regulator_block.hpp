@@ -1,0 +1,25 @@
+#pragma once
+// The regulator as the three regulator windows draw it: a box on the supply
+// line with its name inside, the input pin "E" where the line enters on the
+// left, the output "U" where it leaves on the right, and the common pin at the
+// bottom in the middle.
+#include <string>
+#include <string_view>
+
+#include "calc/schematic.hpp"
+
+namespace bm::semiconductors {
+
+struct RegulatorPins {
+    int in;      // x where the line enters
+    int out;     // x where it leaves
+    int common;  // x of the bottom pin
+    int bottom;  // y of the bottom pin
+};
+
+// The box from `left` on the line at `y`, 1500 wide; its name shows on the
+// label `nameLabel`.
+RegulatorPins RegulatorBlock(CalculatorForm& f, Schematic& s, int left, int y, std::string_view nameLabel,
+                             std::string name, std::string common);
+
+}  // namespace bm::semiconductors
