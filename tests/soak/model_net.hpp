@@ -24,6 +24,8 @@ struct EpisodeResult {
     std::vector<std::string> windows;  // every form shown during the episode
     std::vector<std::string> failures;  // at most one: the episode stops at its first failure
     int runTimeEnds = 0;               // faults and exits, each followed by a restart
+    long failedEvent = -1;             // the event the failure came at
+    bool slow = false;                 // the failure is a step over the time limit
 };
 
 struct EpisodeOptions {
@@ -31,10 +33,15 @@ struct EpisodeOptions {
     long index = 0;
     long stepCpuLimitUs = 50'000;
     std::string scenarioPath;  // the episode as a scenario, written as it goes; empty for none
+    long timeOnly = -1;        // time only this event and stop after it (a slow step timed again)
 };
 
 EpisodeResult RunEpisode(const Workbook& book, const EpisodeOptions& options);
 
+// A step over the time limit counts when it is slow again in two fresh runs
+// of the same episode up to it: the sanitizers' own housekeeping can stall
+// any one step now and then.
+//
 // A worker: episodes from `first` on until the deadline, each reported on
 // `fd` as lines ("b INDEX FORM", "f INDEX FORM TEXT", "e INDEX EVENTS ENDS
 // WINDOWS..."), then "d". Failing episodes are kept as scenario files in
