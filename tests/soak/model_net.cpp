@@ -106,7 +106,7 @@ bool Actionable(const FormState& st, const ControlDef& d) {
 
 class Episode {
 public:
-    Episode(const Workbook& book, const EpisodeOptions& options, const std::vector<std::string>& forms)
+    Episode(const FormLibrary& book, const EpisodeOptions& options, const std::vector<std::string>& forms)
         : book_(book), all_(forms), options_(options),
           random_(Mix(options.seed, static_cast<std::uint64_t>(options.index))) {
         const std::size_t n = forms.size();
@@ -114,7 +114,7 @@ public:
         std::vector<std::string> order = forms;
         Random shuffle(Mix(options.seed ^ 0x5EEDULL, round));
         std::shuffle(order.begin(), order.end(), shuffle);
-        target_ = order[static_cast<std::size_t>(options.index) % n];
+        target_ = options.window.empty() ? order[static_cast<std::size_t>(options.index) % n] : options.window;
         italian_ = Chance(random_, 70);
         if (!options.scenarioPath.empty()) file_ = std::fopen(options.scenarioPath.c_str(), "w");
     }
@@ -336,7 +336,7 @@ private:
         }
     }
 
-    const Workbook& book_;
+    const FormLibrary& book_;
     const std::vector<std::string>& all_;
     EpisodeOptions options_;
     Random random_;
@@ -359,14 +359,14 @@ std::string OneLine(std::string s) {
 
 }  // namespace
 
-std::vector<std::string> EpisodeForms(const Workbook& book) {
+std::vector<std::string> EpisodeForms(const FormLibrary& book) {
     std::vector<std::string> forms{std::string(kMainForm), "frmavvertenza", "frmabaut", "frmhelpcondensatore"};
     for (const CatalogueEntry& e : CalculatorCatalogue()) forms.emplace_back(e.name);
     std::erase_if(forms, [&](const std::string& f) { return !book.has(f); });
     return forms;
 }
 
-EpisodeResult RunEpisode(const Workbook& book, const EpisodeOptions& options) {
+EpisodeResult RunEpisode(const FormLibrary& book, const EpisodeOptions& options) {
     const std::vector<std::string> forms = EpisodeForms(book);
     Episode episode(book, options, forms);
     return episode.run();

@@ -17,7 +17,7 @@ using Clock = std::chrono::steady_clock;
 
 // Every window an episode can be about: the main window, the shell's windows
 // and every form of the catalogue, in a fixed order.
-std::vector<std::string> EpisodeForms(const Workbook& book);
+std::vector<std::string> EpisodeForms(const FormLibrary& book);
 
 struct EpisodeResult {
     long events = 0;
@@ -34,9 +34,10 @@ struct EpisodeOptions {
     long stepCpuLimitUs = 50'000;
     std::string scenarioPath;  // the episode as a scenario, written as it goes; empty for none
     long timeOnly = -1;        // time only this event and stop after it (a slow step timed again)
+    std::string window;        // the episode's window; empty: the one the seed and index choose
 };
 
-EpisodeResult RunEpisode(const Workbook& book, const EpisodeOptions& options);
+EpisodeResult RunEpisode(const FormLibrary& book, const EpisodeOptions& options);
 
 // A step over the time limit counts when it is slow again in two fresh runs
 // of the same episode up to it: the sanitizers' own housekeeping can stall

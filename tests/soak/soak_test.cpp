@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "checks.hpp"
+#include "forms/form_context.hpp"
 #include "forms/headless_host.hpp"
 #include "inputs.hpp"
 #include "model_net.hpp"
@@ -138,6 +139,59 @@ TEST(SoakEpisodes, AnEpisodeIsAScenarioThatReplays) {
     }
     EXPECT_GT(ends, 0) << "no episode met a run-time failure: the junk is too tame";
     std::filesystem::remove_all(dir);
+}
+
+// The workbook with one window broken on purpose.
+class Broken : public FormLibrary {
+public:
+    Broken(void (*breakIt)(CalculatorForm&), std::string form) : name_(std::move(form)) {
+        form_ = std::make_unique<CalculatorForm>(*book_.find(name_));
+        breakIt(*form_);
+    }
+    const CalculatorForm* find(std::string_view name) const override {
+        return name == name_ ? form_.get() : book_.find(name);
+    }
+    bool has(std::string_view name) const override { return book_.has(name); }
+
+private:
+    Workbook book_;
+    std::string name_;
+    std::unique_ptr<CalculatorForm> form_;
+};
+
+std::string FirstFailure(const FormLibrary& library, const std::string& window) {
+    for (long index = 0; index < 5; ++index) {
+        EpisodeOptions options;
+        options.seed = 3;
+        options.index = index;
+        options.window = window;
+        options.stepCpuLimitUs = 10'000'000;
+        const EpisodeResult r = RunEpisode(library, options);
+        if (!r.failures.empty()) return r.failures.front();
+    }
+    return {};
+}
+
+TEST(SoakEpisodes, FindAWindowThatPrintsNotANumber) {
+    const Broken library(
+        [](CalculatorForm& f) {
+            const Handler calculate = *f.handler(EventKind::Click, "cmdcalcola");
+            f.on(EventKind::Click, "cmdcalcola", [calculate](FormContext& c, int index) {
+                calculate(c, index);
+                c.setCaption("lblout2", "VOLT picco picco : -nan");
+            });
+        },
+        "frmvolt");
+    EXPECT_NE(FirstFailure(library, "frmvolt").find("lblout2 shows \"VOLT picco picco : -nan\""), std::string::npos);
+}
+
+TEST(SoakEpisodes, FindAWindowThatTouchesAControlItLacks) {
+    const Broken library(
+        [](CalculatorForm& f) {
+            f.on(EventKind::Click, "cmdcalcola", [](FormContext& c, int) { c.setCaption("lblnessuna", "1"); });
+        },
+        "frmvolt");
+    EXPECT_NE(FirstFailure(library, "frmvolt").find("exception out of the window model"), std::string::npos);
 }
 
 }  // namespace
