@@ -3,6 +3,7 @@
 // replays to the same end.
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -10,6 +11,7 @@
 #include <unistd.h>
 
 #include "checks.hpp"
+#include "child.hpp"
 #include "forms/form_context.hpp"
 #include "forms/headless_host.hpp"
 #include "inputs.hpp"
@@ -139,6 +141,34 @@ TEST(SoakEpisodes, AnEpisodeIsAScenarioThatReplays) {
     }
     EXPECT_GT(ends, 0) << "no episode met a run-time failure: the junk is too tame";
     std::filesystem::remove_all(dir);
+}
+
+// A run in a child: its lines as they come, its end as it was.
+TEST(SoakChild, LinesStatusSignalsAndSilence) {
+    const std::string errors = (std::filesystem::temp_directory_path() / ("soak-child-" + std::to_string(::getpid()))).string();
+    std::vector<std::string> lines;
+    const auto keep = [&](const std::string& l) { lines.push_back(l); };
+
+    ChildOutcome o = RunChild([](int fd) { SendLine(fd, "uno"); SendLine(fd, "due"); return 3; }, keep, {}, errors);
+    EXPECT_EQ(lines, (std::vector<std::string>{"uno", "due"}));
+    EXPECT_TRUE(o.exited);
+    EXPECT_EQ(o.status, 3);
+
+    o = RunChild([](int) { ::raise(SIGKILL); return 0; }, keep, {}, errors);
+    EXPECT_FALSE(o.exited);
+    EXPECT_EQ(o.signal, SIGKILL);
+
+    // Quiet for longer than allowed after a first line: stopped as hung.
+    o = RunChild([](int fd) { SendLine(fd, "su"); ::sleep(5); return 0; }, keep, {2000, 300}, errors);
+    EXPECT_TRUE(o.hung);
+    std::remove(errors.c_str());
+}
+
+TEST(SoakChild, SanitizerReportsAreFoundInTheErrorOutput) {
+    const std::string text = "Qt says hello\n==1==ERROR: AddressSanitizer: heap-use-after-free on address 0x1\n    #0 in f\n";
+    EXPECT_EQ(SanitizerReport(text), "==1==ERROR: AddressSanitizer: heap-use-after-free on address 0x1\n    #0 in f\n");
+    EXPECT_NE(SanitizerReport("a.cpp:3:5: runtime error: signed integer overflow\n"), "");
+    EXPECT_EQ(SanitizerReport("This plugin does not support raise()\n"), "");
 }
 
 // The workbook with one window broken on purpose.
