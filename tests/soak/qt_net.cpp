@@ -274,6 +274,7 @@ private:
             w.close();
             return;
         }
+        if (Chance(random_, 4)) return keyboard(w);
         std::vector<std::pair<const ControlDef*, QWidget*>> boxes;
         std::vector<std::pair<const ControlDef*, QWidget*>> others;
         for (const auto& t : reachable(w)) (t.first->kind == ControlKind::TextBox ? boxes : others).push_back(t);
@@ -290,6 +291,29 @@ private:
         }
         action(form, "click " + name);
         QTest::mouseClick(widget, Qt::LeftButton, {}, Middle(widget));
+    }
+
+    // The keyboard user: Tab to another control and Space on it, or Ctrl+C for the results.
+    void keyboard(FormWindow& w) {
+        const std::string form = w.formName();
+        w.activateWindow();
+        QWidget* focus = QApplication::focusWidget();
+        if (focus == nullptr || focus->window() != &w) focus = w.clientArea();
+        if (Chance(random_, 25)) {
+            action(form, "Ctrl+C");
+            QTest::keyClick(focus, Qt::Key_C, Qt::ControlModifier);
+            return;
+        }
+        const int tabs = static_cast<int>(Pick(random_, 4)) + 1;
+        action(form, std::to_string(tabs) + " Tab and Space");
+        QPointer<FormWindow> guard(&w);
+        for (int i = 0; i < tabs; ++i) {
+            QWidget* now = QApplication::focusWidget();
+            QTest::keyClick(now != nullptr && now->window() == &w ? now : focus, Qt::Key_Tab);
+        }
+        QWidget* target = QApplication::focusWidget();
+        if (guard.isNull() || target == nullptr || target->window() != &w) return;
+        QTest::keyClick(target, Qt::Key_Space);
     }
 
     void typeInto(const std::string& form, const std::string& name, QWidget& box) {
