@@ -243,11 +243,12 @@ private:
         }
     }
 
-    // Widgets of a window the user can reach: visible and enabled.
+    // Widgets of a window the user can reach, found by their names: visible and enabled.
     std::vector<std::pair<const ControlDef*, QWidget*>> reachable(FormWindow& w) {
         std::vector<std::pair<const ControlDef*, QWidget*>> out;
         for (const ControlDef& d : w.definition().controls) {
-            QWidget* widget = w.control(d.key);
+            if (ui::RendererFor(d.kind) == nullptr) continue;
+            QWidget* widget = w.findChild<QWidget*>(Q(d.key.str()));
             if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) continue;
             switch (d.kind) {
                 case ControlKind::TextBox:
