@@ -186,9 +186,10 @@ private:
     }
 
     void mainStep(FormWindow& main) {
+        // Mostly the menu; the exit and the close box end the run, so they come seldom.
         const int roll = static_cast<int>(Pick(random_, 100));
-        if (roll < 85) return chooseFromMenu(main);
-        if (roll < 86) {
+        if (roll < 93) return chooseFromMenu(main);
+        if (roll < 94) {
             action(std::string(kMainForm), "close box");
             main.close();
             return;

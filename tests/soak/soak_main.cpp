@@ -227,6 +227,12 @@ int main(int argc, char** argv) {
 #endif
         failures += qt.failures;
     }
+    if (both || net == "model")
+        std::printf("soak: the model net ran %d worker(s); %d program(s) ended by a run-time failure or the exit, "
+                    "each followed by a new one\n", model.runs, model.runTimeEnds);
+    if (both || net == "qt")
+        std::printf("soak: the Qt net started the program %d time(s); %d run(s) ended by a run-time failure\n", qt.runs,
+                    qt.runTimeEnds);
     if (both || net == "model") Line("model", model);
     if (both || net == "qt") Line("qt", qt);
     return failures == 0 ? 0 : 1;
