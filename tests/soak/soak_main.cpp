@@ -178,7 +178,7 @@ int main(int argc, char** argv) {
     std::string net = "both";
     std::string out = "soak-out";
     long episode = -1;
-    bool keepLogs = false;
+    [[maybe_unused]] bool keepLogs = false;  // the Qt net's logs of runs that passed
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         const char* v = i + 1 < argc ? argv[i + 1] : nullptr;
