@@ -3,6 +3,9 @@ SHELL := /bin/bash
 BUILD      ?= build
 ASAN_BUILD ?= build-asan
 FUZZ_BUILD ?= build-fuzz
+SOAK_BUILD ?= build-soak
+SOAK_SECONDS ?= 600
+SOAK_SEED  ?=
 JOBS       ?= $(shell nproc)
 GENERATOR  := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
 
@@ -13,7 +16,7 @@ FUZZ_PKGS := clang libclang-rt-14-dev
 
 PREFIX     ?= /usr/local
 
-.PHONY: deps run test test-release test-asan bench fuzz gallery install package clean
+.PHONY: deps run test test-release test-asan soak bench fuzz gallery install package clean
 
 deps:
 	@tools/deps.sh $(BASE_PKGS) $(QT_PKGS)
@@ -37,6 +40,15 @@ test-asan: deps
 	@cmake -S . -B $(ASAN_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DBM_SANITIZE=ON -DBM_BENCH=OFF -DBM_WITH_QT=OFF >/dev/null
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	cd $(ASAN_BUILD) && ctest --output-on-failure -j $(JOBS)
+
+# Every window under random use, in the model and in the Qt front end, under
+# AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer: SOAK_SECONDS
+# in all, half for each net; the seed is printed and SOAK_SEED runs it again.
+soak: deps
+	@cmake -S . -B $(SOAK_BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DBM_SANITIZE=ON -DBM_BENCH=OFF -DBM_WITH_QT=ON >/dev/null
+	cmake --build $(SOAK_BUILD) -j $(JOBS) --target soak scenario-runner
+	QT_QPA_PLATFORM=offscreen $(SOAK_BUILD)/bin/soak --seconds $(SOAK_SECONDS) --out $(SOAK_BUILD)/soak \
+	  $(if $(SOAK_SEED),--seed $(SOAK_SEED))
 
 # The number rules, the start-up against a window with the same menu, and every
 # menu item's window (item to first frame, peak memory). Each script prints its
@@ -80,4 +92,4 @@ package: build
 	lintian --fail-on error $(BUILD)/bancomisuratore_*.deb
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(SOAK_BUILD)
