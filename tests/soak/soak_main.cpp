@@ -233,6 +233,13 @@ int main(int argc, char** argv) {
     if (both || net == "qt")
         std::printf("soak: the Qt net started the program %d time(s); %d run(s) ended by a run-time failure\n", qt.runs,
                     qt.runTimeEnds);
+    if (both || net == "model") {
+        // A window no episode ever showed is a window the net did not test.
+        std::string never;
+        for (const std::string& f : bm::soak::EpisodeForms(bm::Workbook()))
+            if (!model.windows.contains(f)) never += " " + f;
+        if (!never.empty()) std::printf("soak: the model net never showed:%s\n", never.c_str());
+    }
     if (both || net == "model") Line("model", model);
     if (both || net == "qt") Line("qt", qt);
     return failures == 0 ? 0 : 1;
