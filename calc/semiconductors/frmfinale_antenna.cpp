@@ -45,9 +45,7 @@ void cmdcalcola_Click(FormContext& f) {
 
     // The current is not checked: 0 ends the program here.
     const FormValue rc = vceo / amps;
-    const FormValue x = 1000000 / ((6.28 * fr) * co);
-    const FormValue rp = rc / (Power(rc / x, 2) + 1);
-    const FormValue xp = (rc * rp) / x;
+    const auto [rp, xp] = ToParallel(rc, co, fr);
     const FormValue t = rp * 60;
     if (t < FormValue::Whole(53)) {
         Refuse(f, "VALORE NON VALIDO", "txtwatt");

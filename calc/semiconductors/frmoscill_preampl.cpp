@@ -39,9 +39,7 @@ void cmdcalcola_Click(FormContext& f) {
     }
     if (watts < 0.4) Refuse(f, "VALORE MINIMO 0.4 WATT", "txtwatt");
 
-    const FormValue x = 1000000 / ((6.28 * fr) * ci);
-    const FormValue rp = r / (Power(r / x, 2) + 1);
-    const FormValue xp = (r * rp) / x;
+    const auto [rp, xp] = ToParallel(r, ci, fr);
     const FormValue coil = ((3 * rp) + xp) / (6.28 * fr);
     const FormValue q = Sqr(((xp * 26) / 35) - 1);
     const FormValue c1 = 1000000 / ((6.28 * fr) * (q * 35));

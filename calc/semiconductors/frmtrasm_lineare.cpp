@@ -50,10 +50,8 @@ void cmdcalcola_Click(FormContext& f) {
         }
     }
 
-    // Between two rows the capacitance is empty and this division fails.
-    const FormValue x = 1000000 / ((6.28 * fr) * ci);
-    const FormValue rp = r / (Power(r / x, 2) + 1);
-    const FormValue xp = (r * rp) / x;
+    // Between two rows the capacitance is empty and the first division fails.
+    const auto [rp, xp] = ToParallel(r, ci, fr);
     const FormValue coil = ((5 * rp) + xp) / (6.28 * fr);
     const FormValue q = Sqr(((rp * 60) / 52) - 1);
     const FormValue c1 = 1000000 / ((6.28 * fr) * (q * 52));

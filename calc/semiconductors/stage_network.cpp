@@ -19,6 +19,12 @@ void Correct(FormContext& f, const char* text, std::string_view box, std::string
     f.setFocus(box);
 }
 
+Parallel ToParallel(const FormValue& r, const FormValue& c, const FormValue& fr) {
+    const FormValue x = 1000000 / ((6.28 * fr) * c);
+    const FormValue rp = r / (Power(r / x, 2) + 1);
+    return {rp, (r * rp) / x};
+}
+
 void ShowNetwork(FormContext& f, const FormValue& microhenry, int coilDecimals, const FormValue& c1,
                  const FormValue& c2) {
     f.setCaption("lblbobina", f.fixed(microhenry, coilDecimals) + " uH");

@@ -31,6 +31,14 @@ void Refuse(FormContext& f, const char* text, std::string_view focus);
 // value the sums go on with, and takes the focus.
 void Correct(FormContext& f, const char* text, std::string_view box, std::string shown);
 
+// A resistance r in series with the reactance of c pF at fr MHz, seen as a
+// resistance rp across a reactance xp.
+struct Parallel {
+    FormValue rp;
+    FormValue xp;
+};
+Parallel ToParallel(const FormValue& r, const FormValue& c, const FormValue& fr);
+
 // lblbobina with the coil's decimals, lblc1 and lblc2 with the locale's default.
 void ShowNetwork(FormContext& f, const FormValue& microhenry, int coilDecimals, const FormValue& c1,
                  const FormValue& c2);
