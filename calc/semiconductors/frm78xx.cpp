@@ -49,13 +49,7 @@ void Drawing(CalculatorForm& f) {
     const int earth = 5400;
     const RegulatorPins pins = RegulatorBlock(f, s, 3600, line, "lbl78xx", "78xx", "M");
     // Input: the reservoir and the decoupling capacitor.
-    s.terminal(600, line);
-    s.wire(600, line, pins.in, line);
-    for (int x : {1500, 2700}) {
-        s.node(x, line);
-        s.capacitor(x, line, x, earth);
-        s.node(x, earth);
-    }
+    SupplyInput(s, pins, line, earth, {1500, 2700});
     // Output: the divider on the common pin with its capacitor, then the
     // decoupling and the output capacitors.
     s.wire(pins.out, line, 9500, line);
@@ -68,15 +62,7 @@ void Drawing(CalculatorForm& f) {
     s.node(divider, mid);
     s.resistor(divider, mid, divider, earth);
     s.capacitor(7050, mid, 7050, earth);
-    for (int x : {7950, 8850}) {
-        s.node(x, line);
-        s.capacitor(x, line, x, earth);
-    }
-    s.wire(600, earth, 9500, earth);
-    s.terminal(600, earth);
-    s.terminal(9500, earth);
-    for (int x : {divider, 7050, 7950, 8850}) s.node(x, earth);
-    s.ground(4350, earth);
+    SupplyOutput(s, line, earth, {7950, 8850}, {divider, 7050});
 
     f.label("Label8", {1710, 3960, 900, 255}, "2.000 uF");
     f.label("Label9", {2910, 3960, 660, 255}, "100 nF");

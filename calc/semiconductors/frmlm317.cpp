@@ -31,13 +31,7 @@ void Drawing(CalculatorForm& f) {
     const int line = 3000;
     const int earth = 5400;
     const RegulatorPins pins = RegulatorBlock(f, s, 3600, line, "Label13", "LM 317", "R");
-    s.terminal(600, line);
-    s.wire(600, line, pins.in, line);
-    for (int x : {1500, 2700}) {
-        s.node(x, line);
-        s.capacitor(x, line, x, earth);
-        s.node(x, earth);
-    }
+    SupplyInput(s, pins, line, earth, {1500, 2700});
     // The diode across the regulator discharges the output into the input
     // when the input falls; the one from the adjust pin discharges its capacitor.
     s.path({{5700, line}, {5700, 2100}});
@@ -58,15 +52,7 @@ void Drawing(CalculatorForm& f) {
     s.node(7200, line);
     s.node(5400, adj);
     s.capacitor(5400, adj, 5400, earth);
-    for (int x : {7950, 8900}) {
-        s.node(x, line);
-        s.capacitor(x, line, x, earth);
-    }
-    s.wire(600, earth, 9500, earth);
-    s.terminal(600, earth);
-    s.terminal(9500, earth);
-    for (int x : {5400, 6300, 7950, 8900}) s.node(x, earth);
-    s.ground(4350, earth);
+    SupplyOutput(s, line, earth, {7950, 8900}, {5400, 6300});
 
     f.label("Label8", {1710, 4080, 900, 255}, "2.200 uF");
     f.label("Label9", {2910, 4080, 660, 255}, "100 nF");

@@ -25,13 +25,7 @@ void Drawing(CalculatorForm& f) {
     const int line = 2100;
     const int earth = 4500;
     const RegulatorPins pins = RegulatorBlock(f, s, 3300, line, "Label7", "LM 317", "R");
-    s.terminal(600, line);
-    s.wire(600, line, pins.in, line);
-    for (int x : {1500, 2550}) {
-        s.node(x, line);
-        s.capacitor(x, line, x, earth);
-        s.node(x, earth);
-    }
+    SupplyInput(s, pins, line, earth, {1500, 2550});
     // R1 from the output back to the adjust pin; the load hangs from the adjust pin.
     const int adj = 3300;
     s.wire(pins.out, line, 6300, line);

@@ -13,4 +13,27 @@ RegulatorPins RegulatorBlock(CalculatorForm& f, Schematic& s, int left, int y, s
     return {left, left + width, left + width / 2, y + 600};
 }
 
+void SupplyInput(Schematic& s, const RegulatorPins& pins, int y, int earth, std::initializer_list<int> caps) {
+    s.terminal(600, y);
+    s.wire(600, y, pins.in, y);
+    for (int x : caps) {
+        s.node(x, y);
+        s.capacitor(x, y, x, earth);
+        s.node(x, earth);
+    }
+}
+
+void SupplyOutput(Schematic& s, int y, int earth, std::initializer_list<int> caps, std::initializer_list<int> joins) {
+    for (int x : caps) {
+        s.node(x, y);
+        s.capacitor(x, y, x, earth);
+    }
+    s.wire(600, earth, 9500, earth);
+    s.terminal(600, earth);
+    s.terminal(9500, earth);
+    for (int x : joins) s.node(x, earth);
+    for (int x : caps) s.node(x, earth);
+    s.ground(4350, earth);
+}
+
 }  // namespace bm::semiconductors
