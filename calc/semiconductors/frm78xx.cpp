@@ -4,6 +4,7 @@
 
 #include "calc/semiconductors/regulator_block.hpp"
 #include "calc/semiconductors/stage_network.hpp"
+#include "forms/calculation.hpp"
 
 namespace bm::semiconductors {
 namespace {
@@ -33,7 +34,7 @@ void cmdcalcola_Click(FormContext& f) {
     }
     // 0.025 is the divider's 25 mA.
     const std::string r1 = f.fixed(vn / 0.025, 0);
-    const FormValue r2 = f.textValue(f.fixed((v - vn) / 0.025, 0));
+    const FormValue r2 = ReadBackFixed(f, (v - vn) / 0.025, 0);
     f.setCaption("lblr1", r1 + " Ohm");
     f.setCaption("lblr2", f.numberText(r2) + " Ohm");
     f.setCaption("lblvout", f.numberText(v) + " Volt Out");
