@@ -7,26 +7,18 @@
 namespace bm::semiconductors {
 namespace {
 
-struct Vars {
-    FormValue frequency, coil, c1, c2;
-};
-
 void txtfrequenza_Change(FormContext& f) {
-    Vars& m = f.values<Vars>();
-    m.frequency = f.read("txtfrequenza");
-    if (m.frequency == FormValue::Whole(0)) {
-        // An empty field shows zeros, not blanks. The frequency set here is
-        // never used.
-        m.frequency = FormValue::Whole(1);
-        m.coil = FormValue::Whole(0);
-        m.c1 = FormValue::Whole(0);
-        m.c2 = FormValue::Whole(0);
-    } else {
-        m.c1 = 1000000 / (m.frequency * 1193.2);
-        m.c2 = m.c1 * 2;
-        m.coil = 80 / (m.frequency * 6.28);
+    const FormValue fr = f.read("txtfrequenza");
+    // An empty or unreadable field shows zeros, not blanks.
+    FormValue coil = FormValue::Whole(0);
+    FormValue c1 = FormValue::Whole(0);
+    FormValue c2 = FormValue::Whole(0);
+    if (!(fr == FormValue::Whole(0))) {
+        c1 = 1000000 / (fr * 1193.2);
+        c2 = c1 * 2;
+        coil = 80 / (fr * 6.28);
     }
-    ShowNetwork(f, m.coil, 3, m.c1, m.c2);
+    ShowNetwork(f, coil, 3, c1, c2);
 }
 
 // The coil window goes beside the two-coil window's corner, whether or not
