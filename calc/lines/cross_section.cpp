@@ -60,6 +60,18 @@ void CrossSection::measure(int x1, int y1, int x2, int y2) {
     }
 }
 
+void CrossSection::spanX(int x1, int x2, int from, int to, int at) {
+    witness(x1, from, x1, to);
+    witness(x2, from, x2, to);
+    measure(x1, at, x2, at);
+}
+
+void CrossSection::spanY(int y1, int y2, int from, int to, int at) {
+    witness(from, y1, to, y1);
+    witness(from, y2, to, y2);
+    measure(at, y1, at, y2);
+}
+
 void Letter(CalculatorForm& form, std::string_view id, int x, int y, std::string text) {
     constexpr int width = 540, height = 255;
     form.label(id, {x - width / 2, y - height / 2, width, height}, std::move(text)).aligned(Align::Center);

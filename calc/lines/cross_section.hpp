@@ -34,6 +34,10 @@ public:
     void measure(int x1, int y1, int x2, int y2);
     // A thin line: the witness lines that carry a measure off the drawing.
     void witness(int x1, int y1, int x2, int y2) { wire(x1, y1, x2, y2); }
+    // The distance between two edges, carried off the drawing: a witness line on
+    // each edge from `from` to `to`, and the measure across them at `at`.
+    void spanX(int x1, int x2, int from, int to, int at);  // edges at x1, x2: a horizontal measure
+    void spanY(int y1, int y2, int from, int to, int at);  // edges at y1, y2: a vertical measure
 
 private:
     void hatch(int x1, int x2, int y, int rise);

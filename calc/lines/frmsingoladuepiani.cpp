@@ -45,9 +45,7 @@ void DrawLine(CalculatorForm& form) {
     s.measure(5400, y, 5400, bottom);
     Letter(form, "Label6", 5760, (top + y) / 2, "h/2");
     Letter(form, "Label7", 5760, (y + bottom) / 2, "h/2");
-    s.witness(x - dia / 2, y, x - dia / 2, 1740);
-    s.witness(x + dia / 2, y, x + dia / 2, 1740);
-    s.measure(x - dia / 2, 1680, x + dia / 2, 1680);
+    s.spanX(x - dia / 2, x + dia / 2, y, 1740, 1680);
     Letter(form, "Label8", x - 480, 1680, "d");
 }
 
