@@ -34,6 +34,11 @@ void CrossSection::groundBelow(int x1, int x2, int y) {
     hatch(x1, x2, y + kPlane, kHatch);
 }
 
+void CrossSection::groundPlanes(int x1, int x2, int top, int bottom) {
+    groundAbove(x1, x2, top);
+    groundBelow(x1, x2, bottom);
+}
+
 void CrossSection::screen(int x, int y, int diameter) {
     shape({x - diameter / 2, y - diameter / 2, diameter, diameter}, ShapeKind::Circle).width(3);
 }

@@ -22,6 +22,8 @@ public:
     // A ground plane from x1 to x2 along y, hatched on its far side from the line.
     void groundAbove(int x1, int x2, int y);  // the line is under it: hatching above
     void groundBelow(int x1, int x2, int y);  // the line is over it: hatching below
+    // Both planes of a line between two grounds, at `top` and `bottom`.
+    void groundPlanes(int x1, int x2, int top, int bottom);
     // A round screen: a thick circle centred at (x, y).
     void screen(int x, int y, int diameter);
     // The dielectric of a coaxial line: a grey disc centred at (x, y).

@@ -32,8 +32,7 @@ void DrawLine(CalculatorForm& form) {
     CrossSection s(form);
     const int top = 240, bottom = 2160, x = 3780, dia = 360;
     const int upper = top + (bottom - top) / 4, lower = bottom - (bottom - top) / 4;
-    s.groundAbove(1440, 6120, top);
-    s.groundBelow(1440, 6120, bottom);
+    s.groundPlanes(1440, 6120, top, bottom);
     s.conductor(x, upper, dia);
     s.conductor(x, lower, dia);
     s.measure(2040, top, 2040, bottom);

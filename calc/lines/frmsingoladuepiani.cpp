@@ -35,8 +35,7 @@ void DrawLine(CalculatorForm& form) {
     CrossSection s(form);
     const int top = 240, bottom = 2160, x = 3780, dia = 420;
     const int y = (top + bottom) / 2;
-    s.groundAbove(1440, 6120, top);
-    s.groundBelow(1440, 6120, bottom);
+    s.groundPlanes(1440, 6120, top, bottom);
     s.conductor(x, y, dia);
     s.measure(2040, top, 2040, bottom);
     Letter(form, "Label5", 1740, y, "h");
