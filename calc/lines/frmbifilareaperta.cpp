@@ -27,13 +27,9 @@ void DrawLine(CalculatorForm& form) {
     const int y = 1140, left = 2880, right = 4680, dia = 480;
     s.conductor(left, y, dia);
     s.conductor(right, y, dia);
-    s.witness(left - dia / 2, y, left - dia / 2, 420);
-    s.witness(left + dia / 2, y, left + dia / 2, 420);
-    s.measure(left - dia / 2, 540, left + dia / 2, 540);
+    s.spanX(left - dia / 2, left + dia / 2, y, 420, 540);
     Letter(form, "Label5", left, 300, "d");
-    s.witness(left, y, left, 1920);
-    s.witness(right, y, right, 1920);
-    s.measure(left, 1800, right, 1800);
+    s.spanX(left, right, y, 1920, 1800);
     Letter(form, "Label6", (left + right) / 2, 2040, "h");
 }
 

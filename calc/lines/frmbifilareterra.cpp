@@ -37,16 +37,12 @@ void DrawLine(CalculatorForm& form) {
     s.conductor(left, y, dia);
     s.conductor(right, y, dia);
     s.groundBelow(1560, 6000, plane);
-    s.witness(left, y - dia / 2 - 60, left, 360);
-    s.witness(right, y - dia / 2 - 60, right, 360);
-    s.measure(left, 480, right, 480);
+    s.spanX(left, right, y - dia / 2 - 60, 360, 480);
     Letter(form, "Label5", (left + right) / 2, 270, "S");
     s.witness(left - dia / 2 - 60, y, 2040, y);
     s.measure(2160, y, 2160, plane);
     Letter(form, "Label6", 1860, (y + plane) / 2, "h");
-    s.witness(right - dia / 2, y, right - dia / 2, 1560);
-    s.witness(right + dia / 2, y, right + dia / 2, 1560);
-    s.measure(right - dia / 2, 1440, right + dia / 2, 1440);
+    s.spanX(right - dia / 2, right + dia / 2, y, 1560, 1440);
     Letter(form, "Label7", right, 1680, "d");
 }
 

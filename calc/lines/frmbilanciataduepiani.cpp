@@ -32,8 +32,7 @@ void DrawLine(CalculatorForm& form) {
     CrossSection s(form);
     const int top = 240, bottom = 2160, x = 3780, dia = 360;
     const int upper = top + (bottom - top) / 4, lower = bottom - (bottom - top) / 4;
-    s.groundAbove(1440, 6120, top);
-    s.groundBelow(1440, 6120, bottom);
+    s.groundPlanes(1440, 6120, top, bottom);
     s.conductor(x, upper, dia);
     s.conductor(x, lower, dia);
     s.measure(2040, top, 2040, bottom);
@@ -46,9 +45,7 @@ void DrawLine(CalculatorForm& form) {
     Letter(form, "Label6", 5760, (top + upper) / 2, "h/4");
     Letter(form, "Label7", 5760, (upper + lower) / 2, "h/2");
     Letter(form, "Label8", 5760, (lower + bottom) / 2, "h/4");
-    s.witness(x - dia / 2, upper, x - dia / 2, 1260);
-    s.witness(x + dia / 2, upper, x + dia / 2, 1260);
-    s.measure(x - dia / 2, 1200, x + dia / 2, 1200);
+    s.spanX(x - dia / 2, x + dia / 2, upper, 1260, 1200);
     Letter(form, "Label9", x - 420, 1200, "d");
 }
 

@@ -41,17 +41,11 @@ void DrawLine(CalculatorForm& form) {
     s.screen(x, y, outer);
     s.conductor(x - half, y, dia);
     s.conductor(x + half, y, dia);
-    s.witness(x, top, 2400, top);
-    s.witness(x, bottom, 2400, bottom);
-    s.measure(2520, top, 2520, bottom);
+    s.spanY(top, bottom, x, 2400, 2520);
     Letter(form, "Label5", 2220, y, "D");
-    s.witness(x - half, y - dia / 2 - 60, x - half, 720);
-    s.witness(x + half, y - dia / 2 - 60, x + half, 720);
-    s.measure(x - half, 780, x + half, 780);
+    s.spanX(x - half, x + half, y - dia / 2 - 60, 720, 780);
     Letter(form, "Label6", x, 570, "h");
-    s.witness(x + half - dia / 2, y, x + half - dia / 2, 1620);
-    s.witness(x + half + dia / 2, y, x + half + dia / 2, 1620);
-    s.measure(x + half - dia / 2, 1560, x + half + dia / 2, 1560);
+    s.spanX(x + half - dia / 2, x + half + dia / 2, y, 1620, 1560);
     Letter(form, "Label7", x + half, 1800, "d");
 }
 

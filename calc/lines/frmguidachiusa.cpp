@@ -46,17 +46,11 @@ void DrawLine(CalculatorForm& form) {
     const int left = x - side / 2, top = y - side / 2;
     s.guide(left, top, side);
     s.conductor(x, y, dia);
-    s.witness(left, top, left, 300);
-    s.witness(left + side, top, left + side, 300);
-    s.measure(left, 360, left + side, 360);
+    s.spanX(left, left + side, top, 300, 360);
     Letter(form, "Label5", x, 150, "S");
-    s.witness(left + side, top, left + side + 420, top);
-    s.witness(left + side, top + side, left + side + 420, top + side);
-    s.measure(left + side + 360, top, left + side + 360, top + side);
+    s.spanY(top, top + side, left + side, left + side + 420, left + side + 360);
     Letter(form, "Label6", left + side + 660, y, "S");
-    s.witness(x - dia / 2, y, x - dia / 2, 1860);
-    s.witness(x + dia / 2, y, x + dia / 2, 1860);
-    s.measure(x - dia / 2, 1800, x + dia / 2, 1800);
+    s.spanX(x - dia / 2, x + dia / 2, y, 1860, 1800);
     Letter(form, "Label7", x - 480, 1800, "d");
 }
 

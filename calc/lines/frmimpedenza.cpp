@@ -54,13 +54,9 @@ void DrawLine(CalculatorForm& form) {
     s.dielectric(x, y, outer);
     s.screen(x, y, outer);
     s.conductor(x, y, inner);
-    s.witness(x, top, 720, top);
-    s.witness(x, bottom, 720, bottom);
-    s.measure(840, top, 840, bottom);
+    s.spanY(top, bottom, x, 720, 840);
     Letter(form, "Label5", 540, y, "D");
-    s.witness(x - inner / 2, y, x - inner / 2, 1680);
-    s.witness(x + inner / 2, y, x + inner / 2, 1680);
-    s.measure(x - inner / 2, 1620, x + inner / 2, 1620);
+    s.spanX(x - inner / 2, x + inner / 2, y, 1680, 1620);
     Letter(form, "Label6", x, 1830, "d");
 }
 

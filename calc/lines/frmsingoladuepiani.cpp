@@ -35,8 +35,7 @@ void DrawLine(CalculatorForm& form) {
     CrossSection s(form);
     const int top = 240, bottom = 2160, x = 3780, dia = 420;
     const int y = (top + bottom) / 2;
-    s.groundAbove(1440, 6120, top);
-    s.groundBelow(1440, 6120, bottom);
+    s.groundPlanes(1440, 6120, top, bottom);
     s.conductor(x, y, dia);
     s.measure(2040, top, 2040, bottom);
     Letter(form, "Label5", 1740, y, "h");
@@ -45,9 +44,7 @@ void DrawLine(CalculatorForm& form) {
     s.measure(5400, y, 5400, bottom);
     Letter(form, "Label6", 5760, (top + y) / 2, "h/2");
     Letter(form, "Label7", 5760, (y + bottom) / 2, "h/2");
-    s.witness(x - dia / 2, y, x - dia / 2, 1740);
-    s.witness(x + dia / 2, y, x + dia / 2, 1740);
-    s.measure(x - dia / 2, 1680, x + dia / 2, 1680);
+    s.spanX(x - dia / 2, x + dia / 2, y, 1740, 1680);
     Letter(form, "Label8", x - 480, 1680, "d");
 }
 

@@ -31,13 +31,9 @@ void DrawLine(CalculatorForm& form) {
     const int left = 2280, width = 3000, thick = 90, upper = 840, lower = 1560;
     s.strip(left, upper, width, thick);
     s.strip(left, lower, width, thick);
-    s.witness(left, upper, left, 420);
-    s.witness(left + width, upper, left + width, 420);
-    s.measure(left, 480, left + width, 480);
+    s.spanX(left, left + width, upper, 420, 480);
     Letter(form, "Label5", left + width / 2, 270, "S");
-    s.witness(left + width, upper + thick, left + width + 480, upper + thick);
-    s.witness(left + width, lower, left + width + 480, lower);
-    s.measure(left + width + 360, upper + thick, left + width + 360, lower);
+    s.spanY(upper + thick, lower, left + width, left + width + 480, left + width + 360);
     Letter(form, "Label6", left + width + 660, (upper + thick + lower) / 2, "d");
 }
 
