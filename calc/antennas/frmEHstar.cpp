@@ -8,8 +8,6 @@ namespace {
 
 constexpr const char* kFrames[] = {"Frame1", "Frame2", "Frame3", "Frame4", "Frame5"};
 
-void Form_Load(FormContext& f) { f.move("lblfantasma", 360, 4080); }
-
 void cmdcalcola_Click(FormContext& f) {
     // The frames take the place of the notice before anything is checked, so
     // they stand empty over a "MANCANO DATI".
@@ -166,7 +164,6 @@ CalculatorForm frmEHstar() {
         .in("Frame5")
         .hidden();
 
-    f.onLoad(Form_Load);
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdstampa", cmdstampa_Click);
     f.onClick("cmdesci", cmdesci_Click);
