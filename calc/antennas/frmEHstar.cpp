@@ -24,7 +24,7 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue win = wc / 2.54;
     const FormValue spin = sc / 2.54;
     const FormValue cin = cc / 2.54;
-    if (EhMissingData(f, ((((fr * din) * r) * wc) * sc) * cc)) return;
+    if (MissingData(f, ((((fr * din) * r) * wc) * sc) * cc, "txtfrequenza", kEhWarningTitle)) return;
 
     // The cylinders: capacitance in pF from the diameter and the length ratio.
     const FormValue c = ((0.546 * r) * din) + (2.06 * din);
