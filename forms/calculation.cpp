@@ -3,15 +3,15 @@
 namespace bm {
 
 namespace {
-void WarnMissing(FormContext& f, std::string_view focus) {
-    f.ShowMessage("MANCANO DATI", 48, "MESSAGGIO DI ERRORE");
+void WarnMissing(FormContext& f, std::string_view focus, std::string_view title = "MESSAGGIO DI ERRORE") {
+    f.ShowMessage("MANCANO DATI", 48, std::string(title));
     f.setFocus(focus);
 }
 }  // namespace
 
-bool MissingData(FormContext& f, const FormValue& product, std::string_view focus) {
+bool MissingData(FormContext& f, const FormValue& product, std::string_view focus, std::string_view title) {
     if (product > 0) return false;
-    WarnMissing(f, focus);
+    WarnMissing(f, focus, title);
     return true;
 }
 

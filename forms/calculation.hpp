@@ -7,9 +7,10 @@
 namespace bm {
 
 // The product gate: a product of the inputs not above 0 answers "MANCANO DATI"
-// (style 48, "MESSAGGIO DI ERRORE") and sends the focus to `focus`. True when
-// the step must end.
-bool MissingData(FormContext& f, const FormValue& product, std::string_view focus);
+// (style 48, under `title`) and sends the focus to `focus`. True when the step
+// must end.
+bool MissingData(FormContext& f, const FormValue& product, std::string_view focus,
+                 std::string_view title = "MESSAGGIO DI ERRORE");
 
 // The other gate: a product of 0 warns as above; a negative product ends the
 // step in silence. True when the step must end.

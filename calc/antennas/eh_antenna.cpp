@@ -26,13 +26,6 @@ void DrawEhCylinders(CalculatorForm& f, AntennaDrawing& a) {
     f.label("Label7", {C::kRight + 120, 420, 1800, 255}, "cilindro superiore");
 }
 
-bool EhMissingData(FormContext& f, const FormValue& product) {
-    if (product > 0) return false;
-    f.ShowMessage("MANCANO DATI", 48, "  ATTENZIONE");
-    f.setFocus("txtfrequenza");
-    return true;
-}
-
 void PrintWithoutButtons(FormContext& f) {
     f.hide("cmdcalcola");
     f.hide("cmdesci");

@@ -21,9 +21,8 @@ struct EhCylinders {
 // diameter (lbld), and the caption "cilindro superiore" (Label7).
 void DrawEhCylinders(CalculatorForm& f, AntennaDrawing& a);
 
-// A product of the inputs not above 0: "MANCANO DATI" under the title
-// "  ATTENZIONE", focus on the frequency. True when the step must end.
-bool EhMissingData(FormContext& f, const FormValue& product);
+// The title of both windows' missing-data warning, two blanks in front.
+inline constexpr const char* kEhWarningTitle = "  ATTENZIONE";
 
 // Hides the three buttons, prints the window as it then stands, shows them again.
 void PrintWithoutButtons(FormContext& f);

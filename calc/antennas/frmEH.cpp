@@ -10,7 +10,7 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue fr = f.read("txtfrequenza");
     const FormValue d = f.read("txtdiametro");
     const FormValue lb = FormValue(f.read("txtlbobina")) * 10;  // the coil length, now in mm
-    if (EhMissingData(f, (fr * d) * lb)) return;
+    if (MissingData(f, (fr * d) * lb, "txtfrequenza", kEhWarningTitle)) return;
 
     const FormValue lc = d * 3.14;  // each cylinder; the gap between them is the diameter
 

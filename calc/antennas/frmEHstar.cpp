@@ -8,8 +8,6 @@ namespace {
 
 constexpr const char* kFrames[] = {"Frame1", "Frame2", "Frame3", "Frame4", "Frame5"};
 
-void Form_Load(FormContext& f) { f.move("lblfantasma", 360, 4080); }
-
 void cmdcalcola_Click(FormContext& f) {
     // The frames take the place of the notice before anything is checked, so
     // they stand empty over a "MANCANO DATI".
@@ -26,7 +24,7 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue win = wc / 2.54;
     const FormValue spin = sc / 2.54;
     const FormValue cin = cc / 2.54;
-    if (EhMissingData(f, ((((fr * din) * r) * wc) * sc) * cc)) return;
+    if (MissingData(f, ((((fr * din) * r) * wc) * sc) * cc, "txtfrequenza", kEhWarningTitle)) return;
 
     // The cylinders: capacitance in pF from the diameter and the length ratio.
     const FormValue c = ((0.546 * r) * din) + (2.06 * din);
@@ -166,7 +164,6 @@ CalculatorForm frmEHstar() {
         .in("Frame5")
         .hidden();
 
-    f.onLoad(Form_Load);
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdstampa", cmdstampa_Click);
     f.onClick("cmdesci", cmdesci_Click);

@@ -21,16 +21,6 @@ std::string Upper(std::string s) {
     return s;
 }
 
-void Form_Load(FormContext& f) {
-    f.move("fraforma", 250, 840);
-    f.show("fraforma");
-    f.move("fraInserimento", 250, 1560);
-    f.hide("lblfantasma");
-    f.hide("lblpiedi");
-    f.hide("lblpollici");
-    f.hide("lbldata");
-}
-
 void cmdcalcola_Click(FormContext& f) {
     // The shape is taken before anything is read: even a click that ends in
     // "MANCANO DATI" puts the shape line in place of the choice, for good.
@@ -137,13 +127,19 @@ CalculatorForm frmloop() {
         .font(12, true)
         .aligned(Align::Center);
 
+    // Each opening starts with the shape to choose and the inputs below it; the
+    // shape line, the unit lines and the print date wait for a calculation.
     f.frame("fraforma", {250, 840, 4320, 600}, "Forma del loop").tip("scegli la forma");
     f.option("Option1(0)", {120, 240, 1320, 285}, "Circolare").in("fraforma");
     f.option("Option1(1)", {1500, 240, 1380, 285}, "Ottagonale").in("fraforma");
     f.option("Option1(2)", {2940, 240, 1260, 285}, "Quadrata").in("fraforma");
 
     // Right-aligned, so that the area placed past its right edge reads on from the text.
-    f.label("lblfantasma", {kPhantomLeft, kPhantomTop, 5400, 255}).font(8, true).aligned(Align::Right).noWrap();
+    f.label("lblfantasma", {kPhantomLeft, kPhantomTop, 5400, 255})
+        .font(8, true)
+        .aligned(Align::Right)
+        .noWrap()
+        .hidden();
     f.label("lblarea", {6100, 1000, 1500, 255}).font(8, true);
 
     f.frame("fraInserimento", {250, 1560, 4320, 2040}, "Inserimento dati");
@@ -156,9 +152,9 @@ CalculatorForm frmloop() {
     f.label("lblwatt", {120, 1620, 2640, 255}, "potenza in Watt").in("fraInserimento");
     f.textBox("txtwatt", {2880, 1560, 1260, 330}).tip("massima potenza prevista").in("fraInserimento");
 
-    f.label("lblpiedi", {370, 3840, 1680, 255}, "lung. in piedi : ");
+    f.label("lblpiedi", {370, 3840, 1680, 255}, "lung. in piedi : ").hidden();
     f.label("Label3", {2100, 3840, 2400, 255}).font(8, true);
-    f.label("lblpollici", {370, 4200, 1680, 255}, "Sez.in pollici :");
+    f.label("lblpollici", {370, 4200, 1680, 255}, "Sez.in pollici :").hidden();
     f.label("Label5", {2100, 4200, 2400, 255}).font(8, true);
 
     // The results, one row each, the fixed text on the left and the value on the right.
@@ -190,7 +186,7 @@ CalculatorForm frmloop() {
         top += 390;
     }
 
-    f.label("lbldata", {370, 4680, 4200, 255}).font(8, true);
+    f.label("lbldata", {370, 4680, 4200, 255}).font(8, true).hidden();
     f.label("Label9", {370, 6780, 2400, 255}, "Z9 QQX  Vers. 2. 1");
 
     f.button("cmdcalcola", {370, 5280, 1980, 480}, "&CALCOLA");
@@ -199,7 +195,6 @@ CalculatorForm frmloop() {
     f.button("cdmcondensatore", {2520, 5940, 1980, 480}, "Info condensatore").tip("accoppiamento capacitivo");
     f.button("cmdExit", {8400, 6780, 1980, 480}, "E S C I");
 
-    f.onLoad(Form_Load);
     f.onClick("cmdcalcola", cmdcalcola_Click);
     f.onClick("cmdstampa", cmdstampa_Click);
     f.onClick("cmdinfo", cmdinfo_Click);
