@@ -1,12 +1,16 @@
 #include "forms/calculation.hpp"
 
+#include <string>
+
 namespace bm {
 
-namespace {
-void WarnMissing(FormContext& f, std::string_view focus) {
-    f.ShowMessage("MANCANO DATI", 48, "MESSAGGIO DI ERRORE");
+void ErrorMessage(FormContext& f, std::string_view text, std::string_view focus) {
+    f.ShowMessage(std::string(text), 48, "MESSAGGIO DI ERRORE");
     f.setFocus(focus);
 }
+
+namespace {
+void WarnMissing(FormContext& f, std::string_view focus) { ErrorMessage(f, "MANCANO DATI", focus); }
 }  // namespace
 
 bool MissingData(FormContext& f, const FormValue& product, std::string_view focus) {

@@ -6,6 +6,10 @@
 
 namespace bm {
 
+// An error box (style 48, "MESSAGGIO DI ERRORE") with `text`, and the focus
+// sent to `focus`: how every refused input is told.
+void ErrorMessage(FormContext& f, std::string_view text, std::string_view focus);
+
 // The product gate: a product of the inputs not above 0 answers "MANCANO DATI"
 // (style 48, "MESSAGGIO DI ERRORE") and sends the focus to `focus`. True when
 // the step must end.
