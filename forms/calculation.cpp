@@ -1,11 +1,17 @@
 #include "forms/calculation.hpp"
 
+#include <string>
+
 namespace bm {
+
+void ErrorMessage(FormContext& f, std::string_view text, std::string_view focus, std::string_view title) {
+    f.ShowMessage(std::string(text), 48, std::string(title));
+    f.setFocus(focus);
+}
 
 namespace {
 void WarnMissing(FormContext& f, std::string_view focus, std::string_view title = "MESSAGGIO DI ERRORE") {
-    f.ShowMessage("MANCANO DATI", 48, std::string(title));
-    f.setFocus(focus);
+    ErrorMessage(f, "MANCANO DATI", focus, title);
 }
 }  // namespace
 

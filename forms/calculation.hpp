@@ -6,6 +6,11 @@
 
 namespace bm {
 
+// An error box (style 48, "MESSAGGIO DI ERRORE" unless a window titles it
+// otherwise) with `text`, and the focus sent to `focus`: how a refused input is told.
+void ErrorMessage(FormContext& f, std::string_view text, std::string_view focus,
+                  std::string_view title = "MESSAGGIO DI ERRORE");
+
 // The product gate: a product of the inputs not above 0 answers "MANCANO DATI"
 // (style 48, under `title`) and sends the focus to `focus`. True when the step
 // must end.

@@ -26,22 +26,10 @@ void cmdcalcola_Click(FormContext& f) {
     m.b = f.read("txtinput2");
     if (MissingDataSilentNegative(f, m.a * m.b, "txtinput1")) return;
 
-    // The computed part shows on the drawing as the result label reads.
-    if (f.chosen("Option1(0)")) {
-        f.setCaption("lblinput(3)", f.fixed(m.a * m.b, 4));
-        f.setNumber("lblr", m.a);
-        f.setNumber("lblc", m.b);
-    }
-    if (f.chosen("Option1(1)")) {
-        f.setCaption("lblinput(3)", f.fixed(m.a / m.b, 4));
-        f.setNumber("lblr", m.b);
-        f.setCaption("lblc", f.text("lblinput(3)"));
-    }
-    if (f.chosen("Option1(2)")) {
-        f.setCaption("lblinput(3)", f.fixed(m.a / m.b, 4));
-        f.setCaption("lblr", f.text("lblinput(3)"));
-        f.setNumber("lblc", m.b);
-    }
+    // Time is R times C; either part is the time over the other.
+    const int option = f.chosenIndex("Option1");
+    if (option < 0) return;
+    ShowResult(f, kCapacitor, option, f.fixed(option == 0 ? m.a * m.b : m.a / m.b, 4), m.a, m.b);
 }
 
 void cmdesci_Click(FormContext& f) { f.close(); }

@@ -28,21 +28,9 @@ void cmdcalcola_Click(FormContext& f) {
     if (MissingDataSilentNegative(f, m.a * m.b, "txtinput1")) return;
 
     // t = L / R: the time and the resistance divide the second input by the first.
-    if (f.chosen("Option1(0)")) {
-        f.setCaption("lblinput(3)", f.fixed(m.b / m.a, 4));
-        f.setNumber("lblr", m.a);
-        f.setNumber("lbll", m.b);
-    }
-    if (f.chosen("Option1(1)")) {
-        f.setCaption("lblinput(3)", f.fixed(m.a * m.b, 6));
-        f.setNumber("lblr", m.b);
-        f.setCaption("lbll", f.text("lblinput(3)"));
-    }
-    if (f.chosen("Option1(2)")) {
-        f.setCaption("lblinput(3)", f.fixed(m.b / m.a, 4));
-        f.setCaption("lblr", f.text("lblinput(3)"));
-        f.setNumber("lbll", m.b);
-    }
+    const int option = f.chosenIndex("Option1");
+    if (option < 0) return;
+    ShowResult(f, kCoil, option, option == 1 ? f.fixed(m.a * m.b, 6) : f.fixed(m.b / m.a, 4), m.a, m.b);
 }
 
 void cmdesci_Click(FormContext& f) { f.close(); }

@@ -1,5 +1,7 @@
 #include "calc/capacitors/time_constant.hpp"
 
+#include <utility>
+
 namespace bm::capacitors {
 
 void DrawChargingCircuit(CalculatorForm& f, Part part, int left, int top, int right, int bottom) {
@@ -52,6 +54,23 @@ void ShowKnownPair(FormContext& f, const KnownPair& pair, const CircuitPart& par
         const auto at = static_cast<std::size_t>(i);
         f.setCaption(Indexed("lblinput", i), pair.names[at]);
         f.setCaption(Indexed("lblumisura", i), pair.units[at]);
+    }
+}
+
+void ShowResult(FormContext& f, const CircuitPart& part, int option, std::string result, const FormValue& a,
+                const FormValue& b) {
+    f.setCaption("lblinput(3)", std::move(result));
+    if (option == 0) {
+        f.setNumber("lblr", a);
+        f.setNumber(part.label, b);
+    }
+    if (option == 1) {
+        f.setNumber("lblr", b);
+        f.setCaption(part.label, f.text("lblinput(3)"));
+    }
+    if (option == 2) {
+        f.setCaption("lblr", f.text("lblinput(3)"));
+        f.setNumber(part.label, b);
     }
 }
 

@@ -4,6 +4,7 @@
 // circuit (a battery, the resistor, the capacitor or coil) that the practical
 // R C example draws too.
 #include <array>
+#include <string>
 
 #include "calc/schematic.hpp"
 #include "forms/form_context.hpp"
@@ -38,5 +39,12 @@ void TimeConstantControls(CalculatorForm& f, const KnownPairs& pairs, const Circ
 // An option's click: "?" for the result, the letters back on the drawing, then
 // the option's six names and units.
 void ShowKnownPair(FormContext& f, const KnownPair& pair, const CircuitPart& part);
+
+// The result of option `option` in lblinput(3), and the drawing as it reads:
+// the first option puts the inputs a and b on the resistor and the part, the
+// second b on the resistor and the result on the part, the third the result on
+// the resistor and b on the part.
+void ShowResult(FormContext& f, const CircuitPart& part, int option, std::string result, const FormValue& a,
+                const FormValue& b);
 
 }  // namespace bm::capacitors

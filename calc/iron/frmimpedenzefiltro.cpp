@@ -18,8 +18,7 @@ void cmdcalcola_Click(FormContext& f) {
     if (MissingData(f, m.l * m.i * m.g, "txthenry")) return;
     // The tooltip offers up to 0.7 mm; the calculation takes no more than 0.6.
     if (m.g > 0.6) {
-        f.ShowMessage("VALORE MAX 0.6 mm", 48, "MESSAGGIO DI ERRORE");
-        f.setFocus("txttraferro");
+        ErrorMessage(f, "VALORE MAX 0.6 mm", "txttraferro");
         return;
     }
 

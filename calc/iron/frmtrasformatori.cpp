@@ -29,11 +29,6 @@ void Option1_Click(FormContext& f, int index) {
     m.t = FormValue(k.t);
 }
 
-void Refuse(FormContext& f, const char* text) {
-    f.ShowMessage(text, 48, "MESSAGGIO DI ERRORE");
-    f.setFocus("txtlunghezza");
-}
-
 void cmdcalcola_Click(FormContext& f) {
     Vars& m = f.values<Vars>();
     m.w = f.read("txtlunghezza");
@@ -45,11 +40,11 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue gross = m.w * m.h;  // mm2
     const FormValue net = gross * 0.95;
     if (gross < 160) {
-        Refuse(f, "SEZIONE TROPPO PICCOLA");
+        ErrorMessage(f, "SEZIONE TROPPO PICCOLA", "txtlunghezza");
         return;
     }
     if (gross > 20000) {
-        Refuse(f, "SEZIONE TROPPO GROSSA");
+        ErrorMessage(f, "SEZIONE TROPPO GROSSA", "txtlunghezza");
         return;
     }
 

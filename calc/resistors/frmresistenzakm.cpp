@@ -29,8 +29,7 @@ void cmdcalcola_Click(FormContext& f) {
     Vars& m = f.values<Vars>();
     m.d = f.read("txtdiametro");
     if (m.d <= 0) {
-        f.ShowMessage("INSERISCI IL DIAMETRO", 48, "MESSAGGIO DI ERRORE");
-        f.setFocus("txtdiametro");
+        ErrorMessage(f, "INSERISCI IL DIAMETRO", "txtdiametro");
         return;
     }
     m.s = Power(m.d / 2, 2) * 3.14159;

@@ -26,8 +26,7 @@ void cmdcalcola_Click(FormContext& f) {
     m.vz = f.read("txtvz");
     m.ma = f.read("txtma");
     if (m.vz > m.vcc) {
-        f.ShowMessage("VALORI DI TENSIONE ERRATI", 48, "MESSAGGIO DI ERRORE");
-        f.setFocus("txtvcc");
+        ErrorMessage(f, "VALORI DI TENSIONE ERRATI", "txtvcc");
         return;
     }
     if (MissingDataSilentNegative(f, m.vcc * m.vz * m.ma, "txtvcc")) return;

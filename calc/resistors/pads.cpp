@@ -46,12 +46,8 @@ std::optional<LPad> SizeLPad(FormContext& f) {
     m.h = f.read("txtRH");
     m.l = f.read("txtRL");
     if (MissingData(f, m.h * m.l, "txtRH")) return std::nullopt;
-    if (m.h <= m.l) {
-        // A wrong order, or no difference to match, is told with the same words.
-        f.ShowMessage("MANCANO DATI", 48, "MESSAGGIO DI ERRORE");
-        f.setFocus("txtRH");
-        return std::nullopt;
-    }
+    // A wrong order, or no difference to match, is told with the same words.
+    if (MissingData(f, m.h - m.l, "txtRH")) return std::nullopt;
     LPad pad{m.h, m.l, {}, {}};
     pad.r1 = Sqr(m.h * (m.h - m.l));
     pad.r2 = Sqr((m.h * Power(m.l, 2)) / (m.h - m.l));
