@@ -6,10 +6,6 @@
 namespace bm::antennas {
 namespace {
 
-void Warn(FormContext& f, const char* text, const char* focus) {
-    f.ShowMessage(text, 48, "MESSAGGIO DI AVVISO");
-    f.setFocus(focus);
-}
 
 void cmdcalcola_Click(FormContext& f) {
     const FormValue freq = f.read("txtfrequenza");
@@ -17,11 +13,11 @@ void cmdcalcola_Click(FormContext& f) {
     if (MissingData(f, freq * turns, "txtfrequenza")) return;
     // The turns are checked before the frequency.
     if (turns < 6 || turns > 22) {
-        Warn(f, "NUMERO SPIRE NON VALIDO", "txtspire");
+        ErrorMessage(f, "NUMERO SPIRE NON VALIDO", "txtspire", "MESSAGGIO DI AVVISO");
         return;
     }
     if (freq < 430 || freq > 1500) {
-        Warn(f, "FREQUENZA NON VALIDA", "txtfrequenza");
+        ErrorMessage(f, "FREQUENZA NON VALIDA", "txtfrequenza", "MESSAGGIO DI AVVISO");
         return;
     }
 

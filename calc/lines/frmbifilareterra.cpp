@@ -20,7 +20,7 @@ void cmdcalcola_Click(FormContext& f) {
     m.h = FormValue(ToSingle(FormValue(f.read("txth"))));
     if (MissingData(f, m.d * m.s * m.h, "txtd")) return;
     if (m.d > m.s || m.d > m.h) {
-        Refuse(f, "d < s   -   d < h", "txtd");
+        ErrorMessage(f, "d < s   -   d < h", "txtd");
         return;
     }
     // The plane lowers the open line's figure by the root of 1 + (s / 2h)^2.

@@ -19,7 +19,7 @@ void cmdcalcola_Click(FormContext& f) {
     if (MissingData(f, m.d * m.h, "txtd")) return;
     // A gap of exactly four diameters is still accepted.
     if (m.h < 4 * m.d) {
-        Refuse(f, "deve essere : h > 4 d", "txtd");
+        ErrorMessage(f, "deve essere : h > 4 d", "txtd");
         return;
     }
     const FormValue z(ToSingle(276 * Log10((m.h * 2) / (m.d * 3.1415))));

@@ -19,11 +19,11 @@ void cmdcalcola_Click(FormContext& f) {
     m.h = f.read("txtdistanza");
     if (MissingData(f, m.screen * m.d * m.h, "txtd1")) return;
     if (m.h >= m.screen - 2 * m.d) {
-        Refuse(f, "distanza eccessiva", "txtd1");
+        ErrorMessage(f, "distanza eccessiva", "txtd1");
         return;
     }
     if (m.screen <= m.d || m.d > m.h) {
-        Refuse(f, "deve essere h > di d  e  D > di  h ", "txtd1");
+        ErrorMessage(f, "deve essere h > di d  e  D > di  h ", "txtd1");
         return;
     }
     const FormValue a(ToSingle(m.h / m.d));

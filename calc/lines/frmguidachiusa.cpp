@@ -25,7 +25,7 @@ void cmdcalcola_Click(FormContext& f) {
     if (MissingData(f, m.d * m.s, "txtd")) return;
     // From r = 2 up the terms stay finite.
     if (m.s < 2 * m.d) {
-        Refuse(f, "d è sempre < di S/2", "txtd");
+        ErrorMessage(f, "d è sempre < di S/2", "txtd");
         return;
     }
     const FormValue r = m.s / m.d;

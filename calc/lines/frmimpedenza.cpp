@@ -32,7 +32,7 @@ void cmdcalcola_Click(FormContext& f) {
     m.inner = f.read("txtd2");
     if (MissingDataSilentNegative(f, m.outer * m.inner, "txtd1")) return;
     if (m.outer <= m.inner) {
-        Refuse(f, "DIAMETRO ESTERNO TROPPO PICCOLO", "txtd1");
+        ErrorMessage(f, "DIAMETRO ESTERNO TROPPO PICCOLO", "txtd1");
         return;
     }
     for (std::size_t i = 0; i < kDielectric.size(); ++i)

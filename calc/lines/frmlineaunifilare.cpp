@@ -21,7 +21,7 @@ void cmdcalcola_Click(FormContext& f) {
     m.d = f.read("txtd");
     m.h = f.read("txth");
     if (m.d * m.h <= 0) {
-        Refuse(f, "DATI MANCANTI O NEGATIVI", "txtd");
+        ErrorMessage(f, "DATI MANCANTI O NEGATIVI", "txtd");
         return;
     }
     m.h = m.h * 1000;

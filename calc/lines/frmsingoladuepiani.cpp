@@ -17,11 +17,11 @@ void cmdcalcola_Click(FormContext& f) {
     m.h = f.read("txth");
     // Below one square millimetre the two dimensions count as no input.
     if (m.d * m.h < 1) {
-        Refuse(f, "DATI NON VALIDI", "txtd");
+        ErrorMessage(f, "DATI NON VALIDI", "txtd");
         return;
     }
     if (m.h <= (FormValue::Whole(4) / 3) * m.d) {
-        Refuse(f, "h deve essere > 4/3 d", "txtd");
+        ErrorMessage(f, "h deve essere > 4/3 d", "txtd");
         return;
     }
     // The diameter multiplies the argument here, and pi is 3.14.

@@ -18,7 +18,7 @@ void cmdcalcola_Click(FormContext& f) {
     if (MissingData(f, m.d * m.s, "txtd")) return;
     // Ten times the distance exactly is still accepted.
     if (m.s < 10 * m.d) {
-        Refuse(f, "S > =  10 d ", "txtd");
+        ErrorMessage(f, "S > =  10 d ", "txtd");
         return;
     }
     const FormValue z(ToSingle((377 * m.d) / m.s));

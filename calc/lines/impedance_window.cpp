@@ -45,10 +45,6 @@ void ImpedanceWindow(CalculatorForm& f, const ImpedanceLayout& layout) {
     f.onClick("cmdesci", cmdesci_Click);
 }
 
-void Refuse(FormContext& f, const std::string& text, std::string_view focus) {
-    f.ShowMessage(text, 48, "MESSAGGIO DI ERRORE");
-    f.setFocus(focus);
-}
 
 void ShowImpedance(FormContext& f, const std::string& number) {
     f.setCaption("lblimpedenza", "L'IMPEDENZA E' DI  :  " + number + "  OHM");

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/calculation.hpp"
 #include "forms/form_context.hpp"
 #include "forms/form_definition.hpp"
 
@@ -35,10 +36,6 @@ struct ImpedanceLayout {
 // Adds the rows, note, results and buttons below the drawing band, and sets the
 // window's height to hold them.
 void ImpedanceWindow(CalculatorForm& f, const ImpedanceLayout& layout);
-
-// A refusal: the text in a box of style 48, "MESSAGGIO DI ERRORE", then the
-// focus on `focus`.
-void Refuse(FormContext& f, const std::string& text, std::string_view focus);
 
 // "L'IMPEDENZA E' DI  :  " and the number, in ohm.
 void ShowImpedance(FormContext& f, const std::string& number);

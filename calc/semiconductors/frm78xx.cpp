@@ -29,7 +29,7 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue vn = f.values<Vars>().nominal;
     const FormValue v = f.read("txtvu");
     if (v <= vn || v > FormValue::Whole(35)) {
-        Refuse(f, "DATO NON CONGRUO", "txtvu");
+        ErrorMessage(f, "DATO NON CONGRUO", "txtvu");
         return;
     }
     // 0.025 is the divider's 25 mA.

@@ -48,7 +48,7 @@ void cmdcalcola_Click(FormContext& f) {
     const auto [rp, xp] = ToParallel(rc, co, fr);
     const FormValue t = rp * 60;
     if (t < FormValue::Whole(53)) {
-        Refuse(f, "VALORE NON VALIDO", "txtwatt");
+        ErrorMessage(f, "VALORE NON VALIDO", "txtwatt");
         return;
     }
     const FormValue q = Sqr((t / 52) - 1);

@@ -11,7 +11,7 @@ void cmdcalcola_Click(FormContext& f) {
     const FormValue v = f.read("txtvu");
     // The limit checked is 100 V, whatever the notes on the window say.
     if (v > FormValue::Whole(100) || v <= FormValue(1.25)) {
-        Refuse(f, "DATO NON CONGRUO", "txtvu");
+        ErrorMessage(f, "DATO NON CONGRUO", "txtvu");
         return;
     }
     const FormValue r2 = FloorValue(((v / 1.25) - 1) * 220);

@@ -9,7 +9,7 @@ namespace {
 void cmdcalcola_Click(FormContext& f) {
     const FormValue ma = f.read("txtcorrente");
     if (ma <= FormValue::Whole(0) || ma > FormValue::Whole(1000)) {
-        Refuse(f, "DATO NON CONGRUO", "txtcorrente");
+        ErrorMessage(f, "DATO NON CONGRUO", "txtcorrente");
         return;
     }
     const std::string r = f.fixed(1250 / ma, 1);

@@ -32,12 +32,12 @@ void cmdcalcola_Click(FormContext& f) {
     // two rows, leaves the input data empty and the first division fails.
     FormValue r, ci;
     if (watts > 2) {
-        Refuse(f, "massima potenza 2 W", "txtwatt");
+        ErrorMessage(f, "massima potenza 2 W", "txtwatt");
     } else if (const PowerBand* band = FindBand(kBands, watts)) {
         r = band->r;
         ci = band->ci;
     }
-    if (watts < 0.4) Refuse(f, "VALORE MINIMO 0.4 WATT", "txtwatt");
+    if (watts < 0.4) ErrorMessage(f, "VALORE MINIMO 0.4 WATT", "txtwatt");
 
     const auto [rp, xp] = ToParallel(r, ci, fr);
     const FormValue coil = ((3 * rp) + xp) / (6.28 * fr);

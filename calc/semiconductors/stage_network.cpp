@@ -8,10 +8,6 @@ const PowerBand* FindBand(std::span<const PowerBand> rows, double watts) {
     return nullptr;
 }
 
-void Refuse(FormContext& f, const char* text, std::string_view focus) {
-    f.ShowMessage(text, 48, "MESSAGGIO DI ERRORE");
-    f.setFocus(focus);
-}
 
 void Correct(FormContext& f, const char* text, std::string_view box, std::string shown) {
     f.ShowMessage(text, 48, "MESSAGGIO DI ERRORE");

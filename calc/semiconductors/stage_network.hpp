@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "forms/calculation.hpp"
 #include "forms/form_context.hpp"
 
 namespace bm::semiconductors {
@@ -23,9 +24,6 @@ struct PowerBand {
 // The first row from the top that holds the power, bounds included; none for
 // a power that falls between two rows.
 const PowerBand* FindBand(std::span<const PowerBand> rows, double watts);
-
-// A box of style 48 under "MESSAGGIO DI ERRORE", then the focus to the field.
-void Refuse(FormContext& f, const char* text, std::string_view focus);
 
 // A warning that does not stop the click: the box, then the field shows the
 // value the sums go on with, and takes the focus.

@@ -39,14 +39,10 @@ void ShowResults(FormContext& f, const std::string& t1, const std::string& t2, c
     f.setCaption("lbl75", v75);
 }
 
-void Warn(FormContext& f, const char* text, const char* title) {
-    f.ShowMessage(text, 48, title);
-    f.setFocus("txtinput");
-}
 
 void FromDBW(FormContext& f, const FormValue& w) {
     if (w < -30 || w > 50) {
-        Warn(f, "VALORI da:  - 30 a + 50", "MESSAGGIO DI AVVISO");
+        ErrorMessage(f, "VALORI da:  - 30 a + 50", "txtinput", "MESSAGGIO DI AVVISO");
         return;
     }
     const std::string t1 = f.picture(w + 30, "##0.###");
@@ -57,7 +53,7 @@ void FromDBW(FormContext& f, const FormValue& w) {
 
 void FromDBm(FormContext& f, const FormValue& w) {
     if (w < -90 || w > 80) {
-        Warn(f, "VALORI DA: - 90 a + 80", "MESSAGGIO DI AVVISO");
+        ErrorMessage(f, "VALORI DA: - 90 a + 80", "txtinput", "MESSAGGIO DI AVVISO");
         return;
     }
     const FormValue t1 = f.picture(w - 30, "##0.##");
@@ -84,11 +80,11 @@ void FromWatt(FormContext& f, FormValue& w) {
         return;
     }
     if (w < 0) {
-        Warn(f, "NON ESISTONO WATT NEGATIVI", "MESSAGGIO DI ERRORE");
+        ErrorMessage(f, "NON ESISTONO WATT NEGATIVI", "txtinput", "MESSAGGIO DI ERRORE");
         return;
     }
     if (w > 100000) {
-        Warn(f, "VALORE ECCESSIVO", "MESSAGGIO DI AVVISO");
+        ErrorMessage(f, "VALORE ECCESSIVO", "txtinput", "MESSAGGIO DI AVVISO");
         return;
     }
     const FormValue t1 = f.picture(Log10(w) * 10, "##0.##");
