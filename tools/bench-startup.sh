@@ -15,6 +15,7 @@ set -euo pipefail
 build=${1:-build}
 runs=${BENCH_RUNS:-41}
 here=$(cd "$(dirname "$0")/.." && pwd)
+source "$here/tools/bench-lib.sh"
 app="$build/bin/bancomisuratore"
 minimal="$build/bin/bench-startup-minimal"
 
@@ -26,12 +27,7 @@ if [ "${2:-}" != "--inside" ]; then
     fi
   done
   if [ "$runs" -lt 7 ]; then runs=7; fi
-  if ! command -v xvfb-run >/dev/null; then
-    echo "bench-startup: xvfb-run is missing (make deps installs xvfb)." >&2
-    exit 1
-  fi
-  # One X server for all the runs, so that only the programs are measured.
-  exec env BENCH_RUNS="$runs" xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$build" --inside
+  bench_under_xvfb bench-startup "$runs" "$build" "$0"
 fi
 
 export QT_QPA_PLATFORM=xcb
@@ -52,7 +48,6 @@ measure() {
   echo "$(( (shown - start) / 1000 )) $rss"
 }
 
-median() { sort -n | awk '{ v[NR] = $1 } END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
 best() { sort -n | head -1; }
 
 # The two programs take turns, so that whatever else the machine is doing
@@ -77,7 +72,6 @@ ratio=$(awk -v a="$app_us" -v b="$min_us" 'BEGIN { printf "%.3f", a / b }')
 if awk -v r="$ratio" 'BEGIN { exit !(r <= 1.1) }'; then verdict=within; else verdict=OVER; fi
 
 ms() { awk -v u="$1" 'BEGIN { printf "%.0f ms", u / 1000 }'; }
-mib() { awk -v k="$1" 'BEGIN { printf "%.1f MiB", k / 1024 }'; }
 extra() { awk -v a="$1" -v b="$2" -v s="$3" 'BEGIN { printf "%+.1f%s", (a - b) / s, (s == 1000 ? " ms" : " MiB") }'; }
 
 load=$(cut -d' ' -f1-3 /proc/loadavg)
@@ -120,15 +114,7 @@ single runs scatter widely: compare medians.
 MD
 )
 
-doc="$here/docs/performance.md"
-[ -f "$doc" ] || printf '# Performance\n' >"$doc"
-# Replace the section up to the next heading of its level, or append it.
-awk -v section="$section" '
-  /^## Start-up[[:space:]]*$/ { print section; skip = 1; done = 1; next }
-  skip && /^## / { skip = 0; print "" }
-  !skip { print }
-  END { if (!done) { print ""; print section } }
-' "$doc" >"$tmp/doc" && cp "$tmp/doc" "$doc"
+bench_write_section Start-up "$section"
 
 printf '%-24s %12s %12s %12s\n' program "to shown" fastest "peak RSS"
 printf '%-24s %12s %12s %12s\n' bench-startup-minimal "$(ms "$min_us")" "$(ms "$min_best")" "$(mib "$min_kib")"

@@ -14,6 +14,7 @@ set -euo pipefail
 build=${1:-build}
 runs=${BENCH_RUNS:-5}
 here=$(cd "$(dirname "$0")/.." && pwd)
+source "$here/tools/bench-lib.sh"
 exe="$build/bin/bench-windows"
 frame_us=16000
 memory_kib=$((60 * 1024))
@@ -24,11 +25,7 @@ if [ "${2:-}" != "--inside" ]; then
     exit 0
   fi
   if [ "$runs" -lt 3 ]; then runs=3; fi
-  if ! command -v xvfb-run >/dev/null; then
-    echo "bench-windows: xvfb-run is missing (make deps installs xvfb)." >&2
-    exit 1
-  fi
-  exec env BENCH_RUNS="$runs" xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$build" --inside
+  bench_under_xvfb bench-windows "$runs" "$build" "$0"
 fi
 
 export QT_QPA_PLATFORM=xcb
@@ -61,25 +58,23 @@ for f in "$tmp"/run*; do grep -m1 '^item ' "$f"; done | awk '{ print $5 }' | sor
 skipped=$(grep -c '^skipped ' "$tmp/run0" || true)
 measured=$(wc -l <"$tmp/items")
 
-median_of() { sort -n | awk '{ v[NR] = $1 } END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
 slowest=$(tail -1 "$tmp/items")
 slowest_us=$(echo "$slowest" | awk '{ print $4 }')
 slowest_name=$(echo "$slowest" | awk '{ print $1 " (" $2 ", " $3 ")" }')
-median_us=$(awk '{ print $4 }' "$tmp/items" | median_of)
-cpu_median_us=$(awk '{ print $5 }' "$tmp/items" | median_of)
+median_us=$(awk '{ print $4 }' "$tmp/items" | median)
+cpu_median_us=$(awk '{ print $5 }' "$tmp/items" | median)
 cpu_max_us=$(awk '{ print $5 }' "$tmp/items" | sort -n | tail -1)
-again_median_us=$(awk '{ print $6 }' "$tmp/items" | median_of)
+again_median_us=$(awk '{ print $6 }' "$tmp/items" | median)
 again_max_us=$(awk '{ print $6 }' "$tmp/items" | sort -n | tail -1)
-session_first_us=$(median_of <"$tmp/session_first")
+session_first_us=$(median <"$tmp/session_first")
 # The slowest single first opening of any run, not a median.
 worst=$(cat "$tmp"/run* | awk '$1 == "item" && $5 + 0 > w + 0 { w = $5; name = $2 " (" $3 ")" } END { print w, name }')
 worst_us=${worst%% *}
 worst_name=${worst#* }
-peak_kib=$(sed -n 's/^peak_kib //p' "$tmp"/run* | median_of)
+peak_kib=$(sed -n 's/^peak_kib //p' "$tmp"/run* | median)
 peak_max_kib=$(sed -n 's/^peak_kib //p' "$tmp"/run* | sort -n | tail -1)
 
 ms() { awk -v u="$1" 'BEGIN { printf "%.1f ms", u / 1000 }'; }
-mib() { awk -v k="$1" 'BEGIN { printf "%.1f MiB", k / 1024 }'; }
 verdict() { if awk -v a="$1" -v b="$2" 'BEGIN { exit !(a < b) }'; then echo "within"; else echo "OVER"; fi; }
 time_verdict=$(verdict "$slowest_us" "$frame_us")
 memory_verdict=$(verdict "$peak_max_kib" "$memory_kib")
@@ -136,14 +131,7 @@ the program's or the machine's.
 MD
 )
 
-doc="$here/docs/performance.md"
-[ -f "$doc" ] || printf '# Performance\n' >"$doc"
-awk -v section="$section" '
-  /^## Windows[[:space:]]*$/ { print section; skip = 1; done = 1; next }
-  skip && /^## / { skip = 0; print "" }
-  !skip { print }
-  END { if (!done) { print ""; print section } }
-' "$doc" >"$tmp/doc" && cp "$tmp/doc" "$doc"
+bench_write_section Windows "$section"
 
 echo "windows: $measured menu items measured, $skipped skipped (form not in the workbook yet), $runs runs"
 echo "windows: slowest $(ms "$slowest_us") $slowest_name [budget 16 ms: $time_verdict]"

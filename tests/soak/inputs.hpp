@@ -1,6 +1,7 @@
 #pragma once
 // What users put into the boxes: numbers as they type them, numbers a little
 // wrong, and plain junk, drawn at random with the weight on the numbers.
+#include <cstdint>
 #include <random>
 #include <string>
 #include <vector>
@@ -8,6 +9,14 @@
 namespace bm::soak {
 
 using Random = std::mt19937_64;
+
+// A seed for one run of many from the seed of them all (splitmix64).
+inline std::uint64_t Mix(std::uint64_t a, std::uint64_t b) {
+    std::uint64_t z = a + 0x9E3779B97F4A7C15ULL * (b + 1);
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
+    return z ^ (z >> 31);
+}
 
 // A whole number in [0, n).
 inline std::size_t Pick(Random& random, std::size_t n) { return n == 0 ? 0 : static_cast<std::size_t>(random() % n); }

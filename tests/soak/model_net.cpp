@@ -20,13 +20,6 @@ namespace bm::soak {
 
 namespace {
 
-std::uint64_t Mix(std::uint64_t a, std::uint64_t b) {
-    std::uint64_t z = a + 0x9E3779B97F4A7C15ULL * (b + 1);
-    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
-    z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
-    return z ^ (z >> 31);
-}
-
 long ThreadCpuMicros() {
     timespec ts{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);

@@ -42,13 +42,6 @@ namespace {
 
 using ui::FormWindow;
 
-std::uint64_t RunSeed(std::uint64_t seed, long run) {
-    std::uint64_t z = seed + 0x9E3779B97F4A7C15ULL * static_cast<std::uint64_t>(run + 1) + 0x51ULL;
-    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
-    z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
-    return z ^ (z >> 31);
-}
-
 QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QPoint Middle(const QWidget* w) { return w->rect().center(); }
@@ -425,7 +418,7 @@ private:
 }  // namespace
 
 int RunQtChild(std::uint64_t seed, long run, long budgetMs, const std::string& logPath, int fd) {
-    Random choice(RunSeed(seed, run));
+    Random choice(Mix(seed + 0x51ULL, static_cast<std::uint64_t>(run)));
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Half the runs with Italian number settings, as most users have them.
     const bool italian = Chance(choice, 50);

@@ -21,18 +21,6 @@
 namespace bm::soak {
 namespace {
 
-TEST(SoakChecks, NotANumberIsAWordOfItsOwn) {
-    for (const char* bad : {"nan", "-nan", "inf", "-inf", "1.#INF", "NaN pF", "R = inf", "-1.#IND", "INF"})
-        EXPECT_TRUE(ShowsNotANumber(bad)) << bad;
-    for (const char* good : {"", "12.5", "infinito", "INFORMAZIONI", "Nanofarad", "banana", "1E+308", "conf", "IND"})
-        EXPECT_FALSE(ShowsNotANumber(good)) << good;
-}
-
-TEST(SoakChecks, PrintedNumbersInEitherLocale) {
-    for (const char* n : {"12", "-0.5", "1.234,5", "5.", ",5 pF", "1E+20", " 3 ohm", "+7"}) EXPECT_TRUE(HoldsNumber(n)) << n;
-    for (const char* t : {"", "pF", "MANCANO DATI", "-", ".", "E+5", "R1"}) EXPECT_FALSE(HoldsNumber(t)) << t;
-}
-
 CalculatorForm TwoResults() {
     CalculatorForm f("frmprova", "PROVA", {0, 0, 3000, 3000});
     f.option("Option1(0)", {0, 0, 900, 300}, "A");
@@ -51,25 +39,6 @@ FormState Loaded(const CalculatorForm& def) {
     st.loaded = true;
     st.shown = true;
     return st;
-}
-
-TEST(SoakChecks, ARecordHoldsItsDefinitionExactly) {
-    const CalculatorForm def = TwoResults();
-    FormState st = Loaded(def);
-    EXPECT_TRUE(RecordProblems(st).empty());
-
-    st.controls.erase(ControlKey::Parse("lbldue"));
-    st.controls[ControlKey::Parse("lbltre")] = {};
-    st.control(ControlKey::Parse("Option1(0)")).chosen = true;
-    st.control(ControlKey::Parse("Option1(1)")).chosen = true;
-    const std::vector<std::string> p = RecordProblems(st);
-    ASSERT_EQ(p.size(), 3u);
-    EXPECT_NE(p[0].find("lbldue is missing"), std::string::npos);
-    EXPECT_NE(p[1].find("lbltre is not in the definition"), std::string::npos);
-    EXPECT_NE(p[2].find("2 elements of Option1"), std::string::npos);
-
-    st.loaded = false;
-    EXPECT_EQ(RecordProblems(st).size(), 2u) << "shown while unloaded, and controls kept";
 }
 
 TEST(SoakChecks, AResultLeftEmptyBesideFreshNumbers) {

@@ -45,8 +45,7 @@ TEST_F(MenuTest, TheMenuBarIsTheMenuTree) {
 }
 
 // The menu knows its forms by name: the main window with its whole menu bar
-// is up before any calculator is built, and a calculator is built when it
-// first opens, once.
+// is up before any calculator is built.
 TEST_F(MenuTest, StartingBuildsNoCalculator) {
     const Workbook& book = library.workbook();
     ASSERT_EQ(StartProgram(program), Program::Status::Running);
@@ -55,15 +54,6 @@ TEST_F(MenuTest, StartingBuildsNoCalculator) {
     EXPECT_FALSE(bar->findChildren<QAction*>().isEmpty());
     EXPECT_EQ(book.definitionsBuilt(), 1U);
     EXPECT_TRUE(book.isDefinitionBuilt(kMainForm));
-
-    auto* item = bar->findChild<QAction*>(QStringLiteral("mnuohm"));
-    ASSERT_NE(item, nullptr);
-    ASSERT_TRUE(item->isEnabled());
-    for (int round = 0; round < 2; ++round) {
-        whileModal([&] { item->trigger(); }, [&] { window("frmleggediohm")->close(); });
-        FlushDeletions();
-        EXPECT_EQ(book.definitionsBuilt(), 2U) << "round " << round;
-    }
 }
 
 TEST(MainMenu, NestingAccessKeysAndDisabledItems) {
